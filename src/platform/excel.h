@@ -1,0 +1,118 @@
+// The spreadsheet's object model as typed references. Each method is one late-bound call under the
+// object model's own name; nothing else in the library spells a host member.
+//
+//   excel::Worksheet sheet(object);
+//   excel::Range area = sheet.get_Range("Sheet1__Code");
+//   std::int32_t rows = area.get_Rows().get_Count();
+//
+// Every call may raise whatever the host raises, and 91 on a reference to none. Where callers use a
+// failure as an answer, the method says so.
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+#include "automation/object.h"
+#include "automation/variant.h"
+#include "platform/excel_constants.h"
+
+namespace rangewerks::excel {
+
+using automation::Object;
+using automation::Variant;
+
+class Application;
+class Range;
+class Workbook;
+class Worksheet;
+
+/// A block of cells. Positions within it count from 1.
+class Range : public Object {
+ public:
+  using Object::Object;
+  explicit Range(const Object& object) : Object(object) {}
+
+  /// The cell at that position, counted down the column.
+  Range get_Item(std::int32_t index) const;
+  /// One cell by its place within the block; row 0 is the row above.
+  Range get_Cells(std::int32_t row, std::int32_t column) const;
+  /// What the cell holds: a number, text, date, boolean, error value or empty; a block's values.
+  Variant get_Value() const;
+  void let_Value(const Variant& value) const;
+  /// The default member without arguments, which is the value.
+  Variant get_Default() const;
+  /// The absolute address: "$C$3", and for a block "$C$3:$C$10".
+  std::string get_Address() const;
+  Range get_Rows() const;
+  Range get_Columns() const;
+  /// The number of elements: of rows behind get_Rows, of columns behind get_Columns.
+  std::int32_t get_Count() const;
+  /// Gives the area a workbook name, or moves that name to it.
+  void let_Name(const std::string& name) const;
+  /// The sheet that the cells lie on.
+  Worksheet get_Parent() const;
+};
+
+/// A defined name of a workbook or of one sheet.
+class Name : public Object {
+ public:
+  using Object::Object;
+  explicit Name(const Object& object) : Object(object) {}
+
+  /// The full text; a name of one sheet has the sheet and "!" in front.
+  std::string get_Name() const;
+  /// Renames in place.
+  void let_Name(const std::string& name) const;
+  /// The cells that it refers to. Fails, as an answer, for a constant, a formula or a dead
+  /// reference.
+  Range get_RefersToRange() const;
+  void Delete() const;
+};
+
+/// The defined names of a workbook, those of its sheets among them. Enumerate() walks them in the
+/// host's order; deleting during the walk doesn't disturb it.
+class Names : public Object {
+ public:
+  using Object::Object;
+  explicit Names(const Object& object) : Object(object) {}
+};
+
+class Worksheet : public Object {
+ public:
+  using Object::Object;
+  explicit Worksheet(const Object& object) : Object(object) {}
+
+  /// The sheet's name as the user sees it.
+  std::string get_Name() const;
+  Workbook get_Parent() const;
+  Application get_Application() const;
+  /// The area of a workbook name or an address. Fails, as an answer, when the name isn't valid on
+  /// this sheet: that is how one sheet's names are told from another's.
+  Range get_Range(const std::string& nameOrAddress) const;
+};
+
+class Workbook : public Object {
+ public:
+  using Object::Object;
+  explicit Workbook(const Object& object) : Object(object) {}
+
+  Application get_Application() const;
+  /// The name of that text. Fails when there is none.
+  Name get_Names(const std::string& name) const;
+};
+
+class Application : public Object {
+ public:
+  using Object::Object;
+  explicit Application(const Object& object) : Object(object) {}
+
+  /// The names of the active workbook.
+  Names get_Names() const;
+  /// The cells that both areas have, or a reference to none when they don't overlap.
+  Range Intersect(const Range& first, const Range& second) const;
+  /// A fact of the host's locale: separators as text, the date order as 0 month first, 1 day first,
+  /// 2 year first.
+  Variant get_International(InternationalIndex index) const;
+};
+
+}  // namespace rangewerks::excel
