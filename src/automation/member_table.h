@@ -17,6 +17,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <tuple>
 #include <type_traits>
 #include <unordered_map>
 #include <utility>
@@ -109,6 +110,22 @@ class AutomationClass : public Dispatch {
   std::string TypeName() const override { return Members().ClassName(); }
   Variant Invoke(const Invocation& call) override { return Members().Invoke(*this, call); }
   virtual const MemberTable& Members() const = 0;
+};
+
+/// A walk that has been started, as an object: for callers that fetch an enumerator by name. It can
+/// be walked once.
+class EnumeratorObject final : public Dispatch {
+ public:
+  explicit EnumeratorObject(std::unique_ptr<Enumerator> walk) : walk_(std::move(walk)) {}
+  std::string TypeName() const override { return "Unknown"; }
+  Variant Invoke(const Invocation& /*call*/) override { throw Error(ErrorNumber::MemberNotFound); }
+  std::unique_ptr<Enumerator> Enumerate() override {
+    if (!walk_) throw Error(ErrorNumber::NotACollection);
+    return std::move(walk_);
+  }
+
+ private:
+  std::unique_ptr<Enumerator> walk_;
 };
 
 // --- how C++ types and variants meet -------------------------------------------------------------
@@ -226,6 +243,14 @@ struct Signature<R (C::*)(A...)> {
   }
 
  private:
+  template <class Class, class M, class... Values>
+  static decltype(auto) Apply([[maybe_unused]] Class& self, M method, Values&... values) {
+    if constexpr (std::is_member_function_pointer_v<M>) {
+      return (self.*method)(values...);
+    } else {
+      return method(values...);
+    }
+  }
   template <class Class, class M, std::size_t... I>
   static Variant CallWith(Class& self, M method,
                           [[maybe_unused]] std::span<const Argument* const> arguments,
@@ -237,11 +262,12 @@ struct Signature<R (C::*)(A...)> {
     };
     try {
       if constexpr (std::is_void_v<R>) {
-        (self.*method)(std::get<I>(values)...);
+        Apply(self, method, std::get<I>(values)...);
         writeBack();
         return {};
       } else {
-        Variant result = ToVariant<std::remove_cvref_t<R>>((self.*method)(std::get<I>(values)...));
+        Variant result =
+            ToVariant<std::remove_cvref_t<R>>(Apply(self, method, std::get<I>(values)...));
         writeBack();
         return result;
       }
@@ -251,6 +277,9 @@ struct Signature<R (C::*)(A...)> {
     }
   }
 };
+/// A class without state declares static functions.
+template <class R, class... A>
+struct Signature<R (*)(A...)> : Signature<R (Dispatch::*)(A...)> {};
 template <class C, class R, class... A>
 struct Signature<R (C::*)(A...) const> : Signature<R (C::*)(A...)> {};
 template <class C, class R, class... A>
@@ -294,6 +323,19 @@ class MemberTable::Builder {
   template <class M>
   Builder&& Set(std::int32_t id, std::string_view name, M method, std::string help) && {
     return std::move(*this).Add(CallKind::Set, id, name, method, {}, std::move(help));
+  }
+  /// The member that a for-each asks for: the walk of the class's Enumerate.
+  Builder&& Enumerator(std::string_view name) && {
+    table_.Append({Member(name),
+                   kEnumeratorId,
+                   CallKind::Get,
+                   {},
+                   TypeCode::Object,
+                   "Enumerates the entries in their order.",
+                   [](Dispatch& self, std::span<const Argument* const>) {
+                     return Variant(std::make_shared<EnumeratorObject>(self.Enumerate()));
+                   }});
+    return std::move(*this);
   }
 
  private:

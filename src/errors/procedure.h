@@ -1,0 +1,58 @@
+// A procedure of the library: what fails inside it goes on to its caller with the procedure's text
+// and line added to the source.
+//
+//   std::string Thing::Read(std::int32_t index) {
+//     return Procedure("Read of Class Module Thing Line#:", [&](Line& at) {
+//       at();
+//       const auto cell = sheet_.get_Range(name_).get_Item(index);
+//       at();
+//       return ToString(cell.get_Value(), Locale::Current());
+//     });
+//   }
+//
+// The path that succeeds builds no string and stores nothing but constants that the compiler keeps
+// in registers, if at all.
+#pragma once
+
+#include <cstdint>
+#include <source_location>
+#include <string_view>
+
+#include "automation/error.h"
+
+namespace rangewerks {
+
+/// The line that a procedure has reached, counted from its first line; 0 until it is marked.
+class Line {
+ public:
+  explicit constexpr Line(std::uint_least32_t start) : start_(start) {}
+
+  /// Marks the line of this call: a failure from here to the next mark is reported there.
+  constexpr void operator()(std::source_location here = std::source_location::current()) {
+    line_ = here.line() - start_;
+  }
+  constexpr std::int32_t Reached() const { return static_cast<std::int32_t>(line_); }
+
+ private:
+  std::uint_least32_t start_;
+  std::uint_least32_t line_ = 0;
+};
+
+/// Raises `error` again with `literal` and the line, directly behind it, added to its source.
+[[noreturn]] void PassOn(const automation::Error& error, std::string_view literal,
+                         std::int32_t line);
+
+/// Runs the body of a procedure and returns what it returns. `literal` is the procedure's fixed
+/// text, up to "Line#:".
+template <class Body>
+auto Procedure(std::string_view literal, Body&& body,
+               std::source_location start = std::source_location::current()) {
+  Line line(start.line());
+  try {
+    return body(line);
+  } catch (const automation::Error& error) {
+    PassOn(error, literal, line.Reached());
+  }
+}
+
+}  // namespace rangewerks
