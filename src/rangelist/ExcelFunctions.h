@@ -1,0 +1,37 @@
+// Routines usable without a range list: how sheet names become parts of workbook names, and where
+// the library lives.
+#pragma once
+
+#include <memory>
+#include <string>
+
+#include "automation/member_table.h"
+#include "platform/system.h"
+
+namespace rangewerks {
+
+/// A global object of the library. Its methods hold no state.
+class ExcelFunctions final : public automation::AutomationClass {
+ public:
+  explicit ExcelFunctions(std::shared_ptr<const platform::System> system)
+      : system_(std::move(system)) {}
+
+  const automation::MemberTable& Members() const override;
+
+  /// A sheet's part of a workbook name: blanks, "-" and "&" become "_", "+" becomes "plus", and a
+  /// digit in front gets "_" before it. Nothing else is changed and the length isn't limited, so
+  /// two sheets can share one part and the host may refuse the name.
+  static std::string CorrectedSheetName(const std::string& SheetName);
+  /// CorrectedSheetName and two underscores.
+  static std::string MultiTabSheetPrefix(const std::string& sSheetName);
+  /// MultiTabSheetPrefix and the range's name, to which the caller has added any prefix of its own.
+  static std::string RangeNameMultiTab(const std::string& sSheetName, const std::string& sRngName);
+  /// The folder of the library's own file, without a separator behind it. Raises 53 when the
+  /// system can't tell.
+  std::string DllPath() const;
+
+ private:
+  std::shared_ptr<const platform::System> system_;
+};
+
+}  // namespace rangewerks
