@@ -1,0 +1,261 @@
+#include "automation/number_text.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
+namespace rangewerks::automation {
+namespace {
+
+constexpr int kSignificantDigits = 15;
+
+bool IsDigit(char c) { return c >= '0' && c <= '9'; }
+bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+
+/// Takes a text apart from the front.
+class Scanner {
+ public:
+  explicit Scanner(std::string_view text) : rest_(text) {}
+
+  bool AtEnd() const { return rest_.empty(); }
+  char Peek() const { return rest_.empty() ? '\0' : rest_.front(); }
+  char Next() {
+    const char c = rest_.front();
+    rest_.remove_prefix(1);
+    return c;
+  }
+  bool Take(char wanted) {
+    if (Peek() != wanted || AtEnd()) return false;
+    rest_.remove_prefix(1);
+    return true;
+  }
+  /// An empty text is never there.
+  bool Take(std::string_view wanted) {
+    if (wanted.empty() || !rest_.starts_with(wanted)) return false;
+    rest_.remove_prefix(wanted.size());
+    return true;
+  }
+  void SkipBlanks() {
+    while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
+  }
+
+ private:
+  std::string_view rest_;
+};
+
+constexpr std::string_view kNoBreakSpace = "\u00A0";
+constexpr std::string_view kNarrowNoBreakSpace = "\u202F";
+
+/// People type a common blank where their locale groups digits by one that doesn't break the line.
+bool TakeThousandsSeparator(Scanner& scanner, const Locale& locale) {
+  const std::string& separator = locale.thousandsSeparator;
+  if (scanner.Take(separator)) return true;
+  if (separator != " " && separator != kNoBreakSpace && separator != kNarrowNoBreakSpace) {
+    return false;
+  }
+  return scanner.Take(' ') || scanner.Take(kNoBreakSpace) || scanner.Take(kNarrowNoBreakSpace);
+}
+
+/// What may stand around the digits, each at most once over both sides.
+struct Surroundings {
+  bool hasSign = false;
+  bool isNegative = false;
+  bool hasCurrency = false;
+  bool isOpen = false;  ///< "(" without its ")" so far
+
+  void ReadBefore(Scanner& scanner, const Locale& locale) {
+    for (;;) {
+      scanner.SkipBlanks();
+      if (!hasSign && scanner.Take('(')) {
+        hasSign = isNegative = isOpen = true;
+      } else if (!TakeSign(scanner) && !TakeCurrency(scanner, locale)) {
+        return;
+      }
+    }
+  }
+  void ReadBehind(Scanner& scanner, const Locale& locale) {
+    for (;;) {
+      scanner.SkipBlanks();
+      if (isOpen && scanner.Take(')')) {
+        isOpen = false;
+      } else if (!TakeSign(scanner) && !TakeCurrency(scanner, locale)) {
+        return;
+      }
+    }
+  }
+
+ private:
+  bool TakeSign(Scanner& scanner) {
+    if (hasSign || (scanner.Peek() != '+' && scanner.Peek() != '-')) return false;
+    isNegative = scanner.Next() == '-';
+    return hasSign = true;
+  }
+  bool TakeCurrency(Scanner& scanner, const Locale& locale) {
+    if (hasCurrency || !scanner.Take(locale.currencySymbol)) return false;
+    return hasCurrency = true;
+  }
+};
+
+/// Copies the exponent behind "e". False when there are no digits in it.
+bool ReadExponent(Scanner& scanner, std::string& digits) {
+  digits += 'e';
+  if (scanner.Peek() == '+' || scanner.Peek() == '-') digits += scanner.Next();
+  if (!IsDigit(scanner.Peek())) return false;
+  while (IsDigit(scanner.Peek())) digits += scanner.Next();
+  return true;
+}
+
+/// Copies a decimal number without its thousands separators and with "." before its fraction.
+bool ReadDecimal(Scanner& scanner, const Locale& locale, std::string& digits) {
+  bool hasDigit = false;
+  bool hasPoint = false;
+  for (;;) {
+    if (IsDigit(scanner.Peek())) {
+      digits += scanner.Next();
+      hasDigit = true;
+    } else if (!hasPoint && scanner.Take(locale.decimalSeparator)) {
+      digits += '.';
+      hasPoint = true;
+    } else if (!hasDigit || !TakeThousandsSeparator(scanner, locale)) {
+      break;
+    }
+  }
+  if (!hasDigit) return false;
+  for (const char mark : {'e', 'E', 'd', 'D'}) {
+    if (scanner.Take(mark)) return ReadExponent(scanner, digits);
+  }
+  return true;
+}
+
+/// An integer behind "&H" or "&O": a pattern of at most 64 bits, the highest of which is the sign.
+NumberRead ReadBitPattern(Scanner& scanner, unsigned bitsPerDigit) {
+  std::uint64_t bits = 0;
+  bool hasDigit = false;
+  for (; DigitValue(scanner.Peek()) < (1U << bitsPerDigit); hasDigit = true) {
+    if (bits >> (64U - bitsPerDigit) != 0) return {ReadOutcome::Overflow};
+    bits = (bits << bitsPerDigit) | DigitValue(scanner.Next());
+  }
+  scanner.SkipBlanks();
+  if (!hasDigit || !scanner.AtEnd()) return {ReadOutcome::Mismatch};
+  return {ReadOutcome::Read, static_cast<double>(static_cast<std::int64_t>(bits)), true};
+}
+
+/// Where the first digit that isn't 0 stands: 1 for units, 0 for tenths; with the exponent added.
+/// Saturates far outside of what a double holds.
+std::int64_t Magnitude(std::string_view digits) {
+  std::int64_t place = 0;
+  bool inFraction = false;
+  bool isSignificant = false;
+  std::size_t i = 0;
+  for (; i < digits.size() && digits[i] != 'e'; ++i) {
+    if (digits[i] == '.') {
+      inFraction = true;
+      continue;
+    }
+    isSignificant = isSignificant || digits[i] != '0';
+    if (!inFraction && isSignificant) ++place;
+    if (inFraction && !isSignificant) --place;
+  }
+  if (i == digits.size()) return place;
+  constexpr std::int64_t kFar = 1'000'000'000'000;
+  const bool isNegative = digits[i + 1] == '-';
+  if (isNegative || digits[i + 1] == '+') ++i;
+  std::int64_t exponent = 0;
+  for (++i; i < digits.size() && exponent < kFar; ++i) exponent = exponent * 10 + (digits[i] - '0');
+  return isNegative ? place - exponent : place + exponent;
+}
+
+/// "d.ddde±xx" with 15 significant digits, taken apart.
+struct Scientific {
+  bool isNegative;
+  std::string_view digits;  ///< without the zeros at the end, at least one
+  int exponent;
+};
+
+template <std::size_t N>
+Scientific ToScientific(double value, std::array<char, N>& buffer) {
+  char* const start = buffer.data();
+  const auto [end, error] = std::to_chars(start, start + N, std::abs(value),
+                                          std::chars_format::scientific, kSignificantDigits - 1);
+  const std::string_view text(start, static_cast<std::size_t>(end - start));
+  const std::size_t mark = text.find('e');
+  int exponent = 0;
+  const std::size_t number = text[mark + 1] == '+' ? mark + 2 : mark + 1;
+  std::from_chars(start + number, end, exponent);
+  buffer[1] = buffer[0];  // over the point, so that the digits are one run
+  std::string_view digits = text.substr(1, mark - 1);
+  while (digits.size() > 1 && digits.back() == '0') digits.remove_suffix(1);
+  return {std::signbit(value) && value != 0, digits, exponent};
+}
+
+std::string WriteExponent(int exponent) {
+  const int magnitude = std::abs(exponent);
+  std::string text = exponent < 0 ? "E-" : "E+";
+  if (magnitude < 10) text += '0';
+  return text + std::to_string(magnitude);
+}
+
+std::string WriteSpecial(double value) {
+  if (std::isnan(value)) return "1.#QNAN";
+  return value < 0 ? "-1.#INF" : "1.#INF";
+}
+
+}  // namespace
+
+unsigned DigitValue(char c) {
+  if (c >= '0' && c <= '9') return static_cast<unsigned>(c - '0');
+  if (c >= 'a' && c <= 'f') return static_cast<unsigned>(c - 'a') + 10;
+  if (c >= 'A' && c <= 'F') return static_cast<unsigned>(c - 'A') + 10;
+  return 16;
+}
+
+double DecimalValue(std::string_view digits) {
+  double value = 0;
+  const auto result = std::from_chars(digits.data(), digits.data() + digits.size(), value);
+  if (result.ec != std::errc::result_out_of_range) return value;
+  return Magnitude(digits) > 0 ? std::numeric_limits<double>::infinity() : 0;
+}
+
+NumberRead ReadNumber(std::string_view text, const Locale& locale) {
+  Scanner scanner(text);
+  Surroundings around;
+  around.ReadBefore(scanner, locale);
+  if (!around.hasSign && !around.hasCurrency && scanner.Take('&')) {
+    if (scanner.Take('H') || scanner.Take('h')) return ReadBitPattern(scanner, 4);
+    if (scanner.Take('O') || scanner.Take('o')) return ReadBitPattern(scanner, 3);
+    return {ReadOutcome::Mismatch};
+  }
+  std::string digits;
+  if (!ReadDecimal(scanner, locale, digits)) return {ReadOutcome::Mismatch};
+  around.ReadBehind(scanner, locale);
+  if (around.isOpen || !scanner.AtEnd()) return {ReadOutcome::Mismatch};
+  const double value = DecimalValue(digits);
+  if (std::isinf(value)) return {ReadOutcome::Overflow};
+  return {ReadOutcome::Read, around.isNegative && value != 0 ? -value : value};
+}
+
+std::string WriteNumber(double value, const Locale& locale) {
+  if (!std::isfinite(value)) return WriteSpecial(value);
+  std::array<char, 32> buffer{};
+  const auto [isNegative, digits, exponent] = ToScientific(value, buffer);
+  const int count = static_cast<int>(digits.size());
+  std::string text = isNegative ? "-" : "";
+  if (exponent >= kSignificantDigits || exponent < -4) {
+    text += digits.front();
+    if (count > 1) text.append(locale.decimalSeparator).append(digits.substr(1));
+    return text + WriteExponent(exponent);
+  }
+  if (exponent < 0) {
+    text.append("0").append(locale.decimalSeparator);
+    return text.append(static_cast<std::size_t>(-exponent - 1), '0').append(digits);
+  }
+  const auto whole = static_cast<std::size_t>(exponent) + 1;
+  if (digits.size() <= whole) return text.append(digits).append(whole - digits.size(), '0');
+  return text.append(digits.substr(0, whole))
+      .append(locale.decimalSeparator)
+      .append(digits.substr(whole));
+}
+
+}  // namespace rangewerks::automation
