@@ -17,6 +17,8 @@ struct DateParts {
   int hour;
   int minute;
   int second;
+
+  bool IsMidnight() const { return hour == 0 && minute == 0 && second == 0; }
 };
 
 /// Whether the calendar has that day, within the years of Date.

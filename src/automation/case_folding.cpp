@@ -4,6 +4,8 @@
 #include <cstdint>
 #include <iterator>
 
+#include "automation/characters.h"
+
 namespace rangewerks::automation {
 namespace {
 

@@ -39,11 +39,10 @@ double Checked(const NumberRead& read) {
 
 std::string DateToString(Date date, const Locale& locale) {
   const DateParts parts = PartsOf(date);
-  const bool isMidnight = parts.hour == 0 && parts.minute == 0 && parts.second == 0;
   const bool isDayZero = parts.year == 1899 && parts.month == 12 && parts.day == 30;
   if (isDayZero) return FormatDate(date, locale.longTime, locale);
   std::string text = FormatDate(date, locale.shortDate, locale);
-  if (!isMidnight) text.append(" ").append(FormatDate(date, locale.longTime, locale));
+  if (!parts.IsMidnight()) text.append(" ").append(FormatDate(date, locale.longTime, locale));
   return text;
 }
 

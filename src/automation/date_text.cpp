@@ -1,15 +1,14 @@
 #include "automation/date_text.h"
 
 #include "automation/calendar.h"
+#include "automation/characters.h"
 
 namespace rangewerks::automation {
 namespace {
 
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
-
 std::string_view TrimBlanks(std::string_view text) {
-  while (!text.empty() && IsBlank(text.front())) text.remove_prefix(1);
-  while (!text.empty() && IsBlank(text.back())) text.remove_suffix(1);
+  while (!text.empty() && IsWhiteSpace(text.front())) text.remove_prefix(1);
+  while (!text.empty() && IsWhiteSpace(text.back())) text.remove_suffix(1);
   return text;
 }
 
@@ -29,7 +28,7 @@ std::optional<Date> ReadDate(std::string_view text, const Locale& locale) {
   if (const auto seconds = ReadTime(text, locale)) return DateAt(0, *seconds);
   // Both, in either order: they part at one of the blanks.
   for (std::size_t i = 0; i < text.size(); ++i) {
-    if (!IsBlank(text[i])) continue;
+    if (!IsWhiteSpace(text[i])) continue;
     const std::string_view front = TrimBlanks(text.substr(0, i));
     const std::string_view back = TrimBlanks(text.substr(i));
     if (const auto date = ReadBoth(front, back, locale)) return date;

@@ -2,14 +2,13 @@
 #include <charconv>
 
 #include "automation/calendar.h"
+#include "automation/characters.h"
 #include "automation/date_text.h"
 #include "automation/text.h"
 
 namespace rangewerks::automation {
 namespace {
 
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 /// Letters of the names of months; bytes beyond ASCII belong to letters of other scripts.
 bool IsLetter(char c) {
   return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || static_cast<unsigned char>(c) >= 0x80;
@@ -99,7 +98,7 @@ std::optional<Part> TakePart(std::string_view& text, const Locale& locale) {
 
 /// At most one separator, and blanks around it.
 Joint TakeJoint(std::string_view& text, const Locale& locale) {
-  const bool hasBlank = !TakeWhile(text, IsBlank).empty();
+  const bool hasBlank = !TakeWhile(text, IsWhiteSpace).empty();
   Joint joint = hasBlank ? Joint::Blank : Joint::None;
   if (!locale.dateSeparator.empty() && text.starts_with(locale.dateSeparator)) {
     text.remove_prefix(locale.dateSeparator.size());
@@ -111,7 +110,7 @@ Joint TakeJoint(std::string_view& text, const Locale& locale) {
     joint = text.front() == '.' ? Joint::Dot : Joint::Comma;
     text.remove_prefix(1);
   }
-  TakeWhile(text, IsBlank);
+  TakeWhile(text, IsWhiteSpace);
   return joint;
 }
 

@@ -2,7 +2,7 @@
 #include <utility>
 
 #include "automation/calendar.h"
-#include "automation/case_folding.h"
+#include "automation/characters.h"
 #include "automation/conversions.h"
 #include "automation/date_text.h"
 
@@ -162,9 +162,8 @@ std::string FormatDateText(std::string_view text, std::string_view pattern, cons
 
 std::string IsoDate(Date date) {
   const DateParts parts = PartsOf(date);
-  const bool isMidnight = parts.hour == 0 && parts.minute == 0 && parts.second == 0;
   // The separators are kept, so that the locale has no say.
-  return PartsAsText(parts, isMidnight ? R"(yyyy\-mm\-dd)" : R"(yyyy\-mm\-dd\Thh\:nn\:ss)",
+  return PartsAsText(parts, parts.IsMidnight() ? R"(yyyy\-mm\-dd)" : R"(yyyy\-mm\-dd\Thh\:nn\:ss)",
                      Locale());
 }
 

@@ -2,14 +2,13 @@
 #include <cstdint>
 #include <string>
 
+#include "automation/characters.h"
 #include "automation/conversions.h"
 #include "automation/error.h"
 #include "automation/number_text.h"
 
 namespace rangewerks::automation {
 namespace {
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 /// A text without its blanks, tabs and line feeds, which are passed over wherever they stand.
 class Tight {

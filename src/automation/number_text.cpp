@@ -6,13 +6,12 @@
 #include <cstdint>
 #include <limits>
 
+#include "automation/characters.h"
+
 namespace rangewerks::automation {
 namespace {
 
 constexpr int kSignificantDigits = 15;
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
-bool IsBlank(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
 
 /// Takes a text apart from the front.
 class Scanner {
@@ -38,7 +37,7 @@ class Scanner {
     return true;
   }
   void SkipBlanks() {
-    while (!rest_.empty() && IsBlank(rest_.front())) rest_.remove_prefix(1);
+    while (!rest_.empty() && IsWhiteSpace(rest_.front())) rest_.remove_prefix(1);
   }
 
  private:

@@ -4,6 +4,7 @@
 #include <cstdint>
 
 #include "automation/case_folding.h"
+#include "automation/characters.h"
 #include "automation/utf8.h"
 
 namespace rangewerks::automation {

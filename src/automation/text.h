@@ -24,7 +24,9 @@ std::string_view Left(std::string_view text, std::size_t count);
 /// of one character to one character, over all scripts with case). For keys, not for display.
 std::string FoldCase(std::string_view text);
 /// Orders two texts without regard to case: negative, 0 or positive. Character by character:
-/// punctuation before digits before letters, letters by their folded code point.
+/// punctuation before digits before letters, within these by the folded code point. Digits are 0 to
+/// 9; beyond ASCII everything is a letter but the blocks of punctuation and symbols. A text that
+/// another begins with comes before it.
 int CompareText(std::string_view left, std::string_view right);
 inline bool EqualText(std::string_view left, std::string_view right) {
   return CompareText(left, right) == 0;

@@ -1,14 +1,11 @@
-#include <charconv>
-#include <vector>
+#include <array>
 
-#include "automation/case_folding.h"
+#include "automation/characters.h"
 #include "automation/date_text.h"
 #include "automation/text.h"
 
 namespace rangewerks::automation {
 namespace {
-
-bool IsDigit(char c) { return c >= '0' && c <= '9'; }
 
 enum class Half { None, Morning, Afternoon };
 
@@ -21,13 +18,14 @@ Half TakeHalf(std::string_view& text) {
   return letter == 'a' ? Half::Morning : Half::Afternoon;
 }
 
-/// Takes a number of one or two digits off the front, or gives -1.
-int TakeNumber(std::string_view& text) {
-  std::size_t count = 0;
+/// Takes a number of one or two digits off the front; a third digit is left over.
+std::optional<int> TakeNumber(std::string_view& text) {
+  if (text.empty() || !IsDigit(text.front())) return std::nullopt;
   int value = 0;
-  while (count < text.size() && IsDigit(text[count])) value = value * 10 + (text[count++] - '0');
-  if (count < 1 || count > 2) return -1;
-  text.remove_prefix(count);
+  for (int i = 0; i < 2 && !text.empty() && IsDigit(text.front()); ++i) {
+    value = value * 10 + (text.front() - '0');
+    text.remove_prefix(1);
+  }
   return value;
 }
 
@@ -51,19 +49,19 @@ std::optional<int> HourOfDay(int hour, Half half) {
 
 std::optional<int> ReadTime(std::string_view text, const Locale& locale) {
   const Half half = TakeHalf(text);
-  int parts[3] = {0, 0, 0};
-  int count = 0;
+  std::array<int, 3> parts{};
+  std::size_t count = 0;
   do {
-    if (count == 3) return std::nullopt;
-    const int part = TakeNumber(text);
-    if (part < 0) return std::nullopt;
-    parts[count++] = part;
+    const auto part = TakeNumber(text);
+    if (!part || count == parts.size()) return std::nullopt;
+    parts.at(count++) = *part;
   } while (TakeSeparator(text, locale));
+  const auto [hours, minutes, seconds] = parts;
   const bool isTime = count >= 2 || half != Half::None;  // a number alone is none
-  if (!text.empty() || !isTime || parts[1] > 59 || parts[2] > 59) return std::nullopt;
-  const auto hour = HourOfDay(parts[0], half);
+  if (!text.empty() || !isTime || minutes > 59 || seconds > 59) return std::nullopt;
+  const auto hour = HourOfDay(hours, half);
   if (!hour) return std::nullopt;
-  return (*hour * 60 + parts[1]) * 60 + parts[2];
+  return (*hour * 60 + minutes) * 60 + seconds;
 }
 
 }  // namespace rangewerks::automation
