@@ -1,0 +1,108 @@
+#include "hosts/workbook/application.h"
+
+#include "hosts/workbook/failure.h"
+#include "hosts/workbook/names.h"
+#include "hosts/workbook/range.h"
+#include "hosts/workbook/sheets.h"
+#include "hosts/workbook/workbook.h"
+#include "hosts/workbook/workbooks.h"
+#include "hosts/workbook/worksheet.h"
+
+namespace rangewerks::hosts::workbook {
+namespace {
+
+const automation::Member kType{"Application"};
+
+std::shared_ptr<Range> RangeArgument(const Variant& value) {
+  const auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
+  if (!range) Refuse("Intersect takes ranges, not a value of the type " + value.TypeName());
+  return range;
+}
+
+}  // namespace
+
+Application::Application(SessionPointer session) : ModelObject(std::move(session), kType) {}
+
+std::shared_ptr<Application> Application::Of(const SessionPointer& session) {
+  return FaceOf<Application>(session->face, [&] { return std::make_shared<Application>(session); });
+}
+
+const MemberTable& Application::Members() const {
+  static const MemberTable table =
+      MemberTable::For<Application>("Application")
+          .Get(0, "Name", &Application::GetName, "The program's name.")
+          .Get(1, "Version", &Application::GetVersion, "The version, as text.")
+          .Get(2, "Workbooks", &Application::GetWorkbooks, {Optional("Index")}, "Open workbooks.")
+          .Get(3, "Names", &Application::GetNames, {Optional("Index")},
+               "The names of the active workbook.")
+          .Get(4, "Sheets", &Application::GetSheets, {Optional("Index")},
+               "The sheets of the active workbook.")
+          .Get(5, "Worksheets", &Application::GetSheets, {Optional("Index")},
+               "The sheets of the active workbook.")
+          .Get(6, "ActiveWorkbook", &Application::GetActiveWorkbook, "The workbook in front.")
+          .Get(7, "ActiveSheet", &Application::GetActiveSheet, "The sheet in front.")
+          .Get(8, "Selection", &Application::GetSelection, "The selected cells.")
+          .Get(9, "International", &Application::GetInternational, {"Index"},
+               "A fact of the locale.")
+          .Get(10, "Application", &Application::GetApplication, "The application.")
+          .Method(11, "Intersect", &Application::Intersect, {"Arg1", "Arg2"},
+                  "The cells that both ranges have, or nothing.");
+  return table;
+}
+
+Book& Application::ActiveBook() const {
+  if (Shared()->active == nullptr) Refuse("No workbook is open");
+  return *Shared()->active;
+}
+
+Variant Application::GetName() const { return "Workbook in memory"; }
+Variant Application::GetVersion() const { return Shared()->version; }
+
+Variant Application::GetWorkbooks(const Variant& index) const {
+  const auto books = std::make_shared<Workbooks>(Shared());
+  return index.IsMissing() ? Variant(books) : books->GetItem(index);
+}
+
+Variant Application::GetNames(const Variant& index) const {
+  const auto names = std::make_shared<Names>(Shared(), &ActiveBook());
+  return index.IsMissing() ? Variant(names) : names->GetItem(index);
+}
+
+Variant Application::GetSheets(const Variant& index) const {
+  const auto sheets = std::make_shared<Sheets>(Shared(), &ActiveBook());
+  return index.IsMissing() ? Variant(sheets) : sheets->GetItem(index);
+}
+
+Variant Application::GetActiveWorkbook() const {
+  return Shared()->active == nullptr ? Object() : Workbook::Of(Shared(), Shared()->active);
+}
+
+Variant Application::GetActiveSheet() const {
+  return Shared()->active == nullptr ? Object() : Worksheet::Of(Shared(), ActiveBook().active);
+}
+
+Variant Application::GetSelection() const {
+  if (Shared()->active == nullptr) return Object();
+  const SheetPointer& sheet = ActiveBook().active;
+  return std::make_shared<Range>(Shared(), sheet, sheet->selection);
+}
+
+Variant Application::GetInternational(const Variant& index) const {
+  return Shared()->international.At(LongArgument(index));
+}
+
+Variant Application::GetApplication() const { return Of(Shared()); }
+
+Variant Application::Intersect(const Variant& first, const Variant& second) const {
+  const auto one = RangeArgument(first);
+  const auto other = RangeArgument(second);
+  if (one->OnSheet() != other->OnSheet()) {
+    Refuse("Intersect takes ranges of one sheet, not of \"" + one->OnSheet()->name + "\" and \"" +
+           other->OnSheet()->name + "\"");
+  }
+  const auto common = CommonArea(one->Cells(), other->Cells());
+  if (!common) return Object();
+  return std::make_shared<Range>(Shared(), one->OnSheet(), *common);
+}
+
+}  // namespace rangewerks::hosts::workbook
