@@ -22,12 +22,13 @@ class SheetFixture : public ::testing::Test {
   using Object = automation::Object;
   using Variant = automation::Variant;
 
+  SheetFixture() { NewWorkbook({"Sheet1", "Sheet2"}); }
+
   /// Starts over with a workbook of these sheets; the first is the list's sheet.
   void NewWorkbook(const std::vector<std::string>& sheets) {
-    workbook = host.AddWorkbook("Book1", sheets);
+    workbook = host.AddWorkbook("Book" + std::to_string(++workbooks_), sheets);
     list->set_ActSheet(Sheet(sheets.front()));
   }
-  SheetFixture() { NewWorkbook({"Sheet1", "Sheet2"}); }
 
   excel::Worksheet Sheet(const std::string& name) const {
     return excel::Worksheet(workbook.Get(Member("Sheets"), {name}).AsObject());
@@ -78,6 +79,9 @@ class SheetFixture : public ::testing::Test {
   hosts::workbook::Host host;
   Object workbook;
   std::shared_ptr<clsInterfaceRangeList> list = std::make_shared<clsInterfaceRangeList>();
+
+ private:
+  int workbooks_ = 0;
 };
 
 }  // namespace rangewerks::tests
