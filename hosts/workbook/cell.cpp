@@ -38,11 +38,7 @@ void PutText(Cell& cell, std::string text) {
   if (automation::Length(text) > kLongestText) {
     Refuse("A cell can't hold a text of more than 32767 characters");
   }
-  if (text.empty()) {
-    cell.value = {};
-  } else {
-    cell.value = std::move(text);
-  }
+  cell.value = std::move(text);
 }
 
 void PutNumber(Cell& cell, double number) {
@@ -51,8 +47,8 @@ void PutNumber(Cell& cell, double number) {
 }
 
 void EnterText(Cell& cell, const std::string& text, const Locale& locale) {
-  if (cell.format == kTextFormat) return PutText(cell, text);
-  if (text.starts_with('\'')) return PutText(cell, text.substr(1));
+  if (cell.format == kTextFormat) return Put(cell, text);
+  if (text.starts_with('\'')) return Put(cell, text.substr(1));
   if (text.starts_with('=') && text.size() > 1) {
     if (automation::Length(text) > kLongestFormula) {
       Refuse("A formula can't have more than 8192 characters");
@@ -120,7 +116,7 @@ void Enter(Cell& cell, const Variant& value, const Locale& locale) {
   if (const auto* text = value.TryGet<std::string>()) {
     EnterText(entered, *text, locale);
   } else if (cell.format == kTextFormat && !value.IsError() && !value.IsNull()) {
-    PutText(entered, ToString(value, locale));
+    Put(entered, ToString(value, locale));
   } else {
     Put(entered, value);
   }
@@ -129,6 +125,8 @@ void Enter(Cell& cell, const Variant& value, const Locale& locale) {
 
 void Put(Cell& cell, const Variant& value) {
   PutShown(cell, value);
+  const auto* text = cell.value.TryGet<std::string>();
+  if (text != nullptr && text->empty()) cell.value = {};  // only a formula shows an empty text
   cell.formula.clear();
 }
 
