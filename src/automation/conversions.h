@@ -58,8 +58,8 @@ bool ToBoolean(const Variant& value, const Locale& locale);
 /// - a number of three or four digits is a year, and stands first or last. One of one or two digits
 ///   is 2000 to 2029 up to 29 and 1930 to 1999 from 30. The year stands where the locale has it
 ///   unless its digits tell; behind a month's name it stands last;
-/// - month and day follow in the locale's order (month before day where the year is first), and in
-///   the other order when that day doesn't exist;
+/// - month and day follow in the locale's order, behind a year always month before day, and in the
+///   other order when that day doesn't exist;
 /// - two parts are a month and a day of the current year; or a month and a year, which stand for
 /// the
 ///   month's first day, when the number can be no day at all: three or four digits, 0, 32 to 99;
