@@ -7,11 +7,10 @@
 #pragma once
 
 #include <algorithm>
+#include <cstddef>
 #include <cstdint>
 #include <deque>
-#include <memory>
 #include <optional>
-#include <ranges>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -24,7 +23,7 @@
 
 namespace rangewerks::automation {
 
-/// Entries in the order of their positions, counted from 1. Keys are unique and compared without
+/// References in the order of their positions, counted from 1. Keys are unique and compared without
 /// regard to case; an empty key is a key like any other. A failed operation changes nothing.
 template <class Item>
 class Collection {
@@ -44,74 +43,66 @@ class Collection {
   /// The entry with that key, or null.
   const Item* TryAt(std::string_view key) const {
     const auto found = byKey_.find(key);
-    return found == byKey_.end() ? nullptr : &found->second->item;
+    return found == byKey_.end() ? nullptr : &found->second;
   }
   /// The entry at a position (a number) or with a key (a text). Raises 9 for a position out of
   /// range, 5 for an unknown key, 13 for a value that is neither.
   const Item& At(const Variant& indexKey) const {
-    if (const auto* key = indexKey.TryGet<std::string>()) return Keyed(*key)->item;
-    return entries_[static_cast<std::size_t>(Position(indexKey))]->item;
+    if (const auto* key = indexKey.TryGet<std::string>()) {
+      const Item* item = TryAt(*key);
+      if (item == nullptr) throw Error(ErrorNumber::InvalidProcedureCall);
+      return *item;
+    }
+    return items_[static_cast<std::size_t>(Position(indexKey))];
   }
 
-  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(entries_.size()); }
+  std::int32_t Count() const noexcept { return static_cast<std::int32_t>(items_.size()); }
 
   /// Takes an entry out; fails as At does.
   void Remove(const Variant& indexKey) {
-    if (const auto* key = indexKey.TryGet<std::string>()) {
-      Erase(std::find(entries_.begin(), entries_.end(), Keyed(*key)));
-    } else {
-      Erase(entries_.begin() + Position(indexKey));
-    }
+    const auto* key = indexKey.TryGet<std::string>();
+    const std::ptrdiff_t index = key != nullptr ? PositionOfKey(*key) : Position(indexKey);
+    const auto place = keys_.begin() + index;
+    if (*place) byKey_.erase(**place);
+    keys_.erase(place);
+    items_.erase(items_.begin() + index);
   }
 
-  /// The entries in their order, for a range-for that doesn't change the collection.
-  auto Items() const {
-    return entries_ | std::views::transform(
-                          [](const EntryPointer& entry) -> const Item& { return entry->item; });
-  }
+  /// The entries in their order, for a loop that doesn't change the collection.
+  const std::deque<Item>& Items() const noexcept { return items_; }
 
  private:
-  struct Entry {
-    Item item;
-    std::optional<std::string> key;
-  };
-  using EntryPointer = std::shared_ptr<Entry>;
-  using Entries =
-      std::deque<EntryPointer>;  // cheap to take from the front: lists are cleared there
-
-  void Insert(std::int32_t index, Item item, Key key) {
-    auto entry = std::make_shared<Entry>(Entry{std::move(item), std::nullopt});
+  void Insert(std::ptrdiff_t index, Item item, Key key) {
+    std::optional<std::string> ownKey;
     if (key) {
-      entry->key = std::string(*key);
-      if (!byKey_.try_emplace(*entry->key, entry).second) {
-        throw Error(ErrorNumber::KeyAlreadyExists);
-      }
+      ownKey = std::string(*key);
+      if (!byKey_.try_emplace(*ownKey, item).second) throw Error(ErrorNumber::KeyAlreadyExists);
     }
-    entries_.insert(entries_.begin() + index, std::move(entry));
+    items_.insert(items_.begin() + index, std::move(item));
+    keys_.insert(keys_.begin() + index, std::move(ownKey));
   }
 
-  void Erase(typename Entries::iterator entry) {
-    if ((*entry)->key) byKey_.erase(byKey_.find(*(*entry)->key));
-    entries_.erase(entry);
+  std::ptrdiff_t PositionOfKey(std::string_view key) const {
+    const auto place = std::find_if(keys_.begin(), keys_.end(), [key](const auto& own) {
+      return own && FoldedEqual()(*own, key);
+    });
+    if (place == keys_.end()) throw Error(ErrorNumber::InvalidProcedureCall);
+    return place - keys_.begin();
   }
 
-  const EntryPointer& Keyed(std::string_view key) const {
-    const auto found = byKey_.find(key);
-    if (found == byKey_.end()) throw Error(ErrorNumber::InvalidProcedureCall);
-    return found->second;
-  }
-
-  std::int32_t Position(const Variant& index) const {
+  std::ptrdiff_t Position(const Variant& index) const {
     return Checked(ToLong(index, Locale::Current()));
   }
 
-  std::int32_t Checked(std::int32_t position) const {
+  std::ptrdiff_t Checked(std::int32_t position) const {
     if (position < 1 || position > Count()) throw Error(ErrorNumber::SubscriptOutOfRange);
     return position - 1;
   }
 
-  Entries entries_;
-  std::unordered_map<std::string, EntryPointer, FoldedHash, FoldedEqual> byKey_;
+  // Lists are cleared from the front, which is cheap in a deque.
+  std::deque<Item> items_;
+  std::deque<std::optional<std::string>> keys_;
+  std::unordered_map<std::string, Item, FoldedHash, FoldedEqual> byKey_;
 };
 
 }  // namespace rangewerks::automation

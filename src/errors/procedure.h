@@ -15,7 +15,6 @@
 #pragma once
 
 #include <cstdint>
-#include <source_location>
 #include <string_view>
 
 #include "automation/error.h"
@@ -25,17 +24,15 @@ namespace rangewerks {
 /// The line that a procedure has reached, counted from its first line; 0 until it is marked.
 class Line {
  public:
-  explicit constexpr Line(std::uint_least32_t start) : start_(start) {}
+  explicit constexpr Line(std::int32_t start) : start_(start) {}
 
   /// Marks the line of this call: a failure from here to the next mark is reported there.
-  constexpr void operator()(std::source_location here = std::source_location::current()) {
-    line_ = here.line() - start_;
-  }
-  constexpr std::int32_t Reached() const { return static_cast<std::int32_t>(line_); }
+  constexpr void operator()(std::int32_t here = __builtin_LINE()) { line_ = here - start_; }
+  constexpr std::int32_t Reached() const { return line_; }
 
  private:
-  std::uint_least32_t start_;
-  std::uint_least32_t line_ = 0;
+  std::int32_t start_;
+  std::int32_t line_ = 0;
 };
 
 /// Raises `error` again with `literal` and the line, directly behind it, added to its source.
@@ -45,9 +42,8 @@ class Line {
 /// Runs the body of a procedure and returns what it returns. `literal` is the procedure's fixed
 /// text, up to "Line#:".
 template <class Body>
-auto Procedure(std::string_view literal, Body&& body,
-               std::source_location start = std::source_location::current()) {
-  Line line(start.line());
+auto Procedure(std::string_view literal, Body&& body, std::int32_t start = __builtin_LINE()) {
+  Line line(start);
   try {
     return body(line);
   } catch (const automation::Error& error) {

@@ -19,13 +19,12 @@ namespace {
 /// Where a record with that name goes: behind every record whose name is not greater.
 std::int16_t PlaceOf(const std::string& name,
                      const Collection<colExInputRangeList::Record>& sorted) {
-  const auto records = sorted.Items();
-  const auto greater = std::ranges::upper_bound(
-      records, name,
-      [](const std::string& left, const std::string& right) {
-        return automation::CompareText(left, right) < 0;
-      },
-      [](const colExInputRangeList::Record& record) { return record->get_RangeName(); });
+  const auto& records = sorted.Items();
+  const auto greater =
+      std::upper_bound(records.begin(), records.end(), name,
+                       [](const std::string& wanted, const colExInputRangeList::Record& placed) {
+                         return automation::CompareText(wanted, placed->get_RangeName()) < 0;
+                       });
   const auto place = greater - records.begin();
   // The position has always been a 16-bit number; beyond it the sort refuses.
   if (place > std::numeric_limits<std::int16_t>::max()) throw Error(ErrorNumber::Overflow);
@@ -99,7 +98,7 @@ void colExInputRangeList::Sort() {
 void colExInputRangeList::Append(const std::shared_ptr<colExInputRangeList>& oISESAppend,
                                  bool bOverWrite) {
   if (!oISESAppend) throw Error(ErrorNumber::ObjectVariableNotSet);
-  const auto items = oISESAppend->Records();
+  const auto& items = oISESAppend->Records();
   // A list can be appended to itself, so its records are taken down first.
   for (const Record& record : std::vector<Record>(items.begin(), items.end())) {
     const std::string& name = record->get_RangeName();
@@ -111,7 +110,7 @@ void colExInputRangeList::Append(const std::shared_ptr<colExInputRangeList>& oIS
 }
 
 std::unique_ptr<automation::Enumerator> colExInputRangeList::Enumerate() {
-  const auto items = records_.Items();
+  const auto& items = records_.Items();
   return std::make_unique<automation::SnapshotEnumerator>(
       std::vector<Variant>(items.begin(), items.end()));
 }

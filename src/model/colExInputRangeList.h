@@ -2,6 +2,7 @@
 #pragma once
 
 #include <cstdint>
+#include <deque>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -56,7 +57,7 @@ class colExInputRangeList final : public automation::AutomationClass {
     return record != nullptr ? *record : nullptr;
   }
   /// The records in list order, for a loop that doesn't change the list.
-  auto Records() const { return records_.Items(); }
+  const std::deque<Record>& Records() const { return records_.Items(); }
 
  private:
   automation::Collection<Record> records_;

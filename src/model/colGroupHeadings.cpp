@@ -26,7 +26,7 @@ colGroupHeadings::Heading colGroupHeadings::Add(const std::string& HeadingText,
 }
 
 std::unique_ptr<automation::Enumerator> colGroupHeadings::Enumerate() {
-  const auto items = headings_.Items();
+  const auto& items = headings_.Items();
   return std::make_unique<automation::SnapshotEnumerator>(
       std::vector<Variant>(items.begin(), items.end()));
 }
