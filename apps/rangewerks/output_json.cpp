@@ -1,0 +1,80 @@
+#include "apps/rangewerks/json_document.h"
+#include "apps/rangewerks/output.h"
+#include "automation/conversions.h"
+
+namespace rangewerks::apps {
+
+namespace {
+
+Json JsonValue(const automation::Variant& value) {
+  if (const auto* number = value.TryGet<double>()) return *number;
+  if (const auto* number = value.TryGet<std::int16_t>()) return *number;
+  if (const auto* yes = value.TryGet<bool>()) return *yes;
+  if (const auto* date = value.TryGet<automation::Date>()) return automation::IsoDate(*date);
+  if (const auto* text = value.TryGet<std::string>()) return *text;
+  return nullptr;
+}
+
+Json JsonRead(const ReadValue& read) {
+  return {{"found", read.found}, {"value", JsonValue(read.value)}};
+}
+
+Json TextOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
+
+Json JsonRanges(const PostingRead& posting) {
+  Json ranges = Json::object();
+  for (const FoundRange& range : posting.ranges) {
+    ranges[range.name] = {{"exists", range.exists},
+                          {"address", TextOrNull(range.address)},
+                          {"rows", range.rows},
+                          {"acts_as_header", range.actsAsHeader}};
+  }
+  return ranges;
+}
+
+/// `values` belong to those of the posting's ranges that stand at `places`.
+Json JsonValues(const PostingRead& posting, const std::vector<std::size_t>& places,
+                const std::vector<ReadValue>& values) {
+  Json::object_t named;
+  for (std::size_t index = 0; index < places.size(); ++index) {
+    // Straight to the end: names are unique, and looking each up would take long on long lists.
+    named.emplace_back(posting.ranges[places[index]].name, JsonRead(values[index]));
+  }
+  return named;
+}
+
+Json JsonRows(const PostingRead& posting) {
+  Json rows = Json::array();
+  for (const DetailRow& row : posting.rows) {
+    rows.push_back(
+        {{"row", row.row}, {"values", JsonValues(posting, posting.details, row.values)}});
+  }
+  return rows;
+}
+
+Json JsonErrors(const PostingRead& posting) {
+  Json errors = Json::array();
+  for (const BadCell& bad : posting.badCells) {
+    errors.push_back({{"range", bad.range},
+                      {"row", bad.row},
+                      {"address", TextOrNull(bad.address)},
+                      {"number", bad.number},
+                      {"description", bad.description},
+                      {"source", bad.source}});
+  }
+  return errors;
+}
+
+}  // namespace
+
+std::string JsonOf(const std::string& book, const PostingRead& posting) {
+  const Json document = {{"book", book},
+                         {"sheet", posting.sheet},
+                         {"ranges", JsonRanges(posting)},
+                         {"header", JsonValues(posting, posting.headers, posting.header)},
+                         {"rows", JsonRows(posting)},
+                         {"errors", JsonErrors(posting)}};
+  return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace rangewerks::apps
