@@ -60,8 +60,7 @@ bool ToBoolean(const Variant& value, const Locale& locale);
 ///   unless its digits tell; behind a month's name it stands last;
 /// - month and day follow in the locale's order, behind a year always month before day, and in the
 ///   other order when that day doesn't exist;
-/// - two parts are a month and a day of the current year; or a month and a year, which stand for
-/// the
+/// - two parts are a month and a day of the current year; or a month and a year, standing for the
 ///   month's first day, when the number can be no day at all: three or four digits, 0, 32 to 99;
 /// - a day that its month lacks, such as 29/02/2021, is a mismatch, as are names of weekdays.
 ///

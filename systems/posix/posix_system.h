@@ -1,0 +1,24 @@
+// What the library asks of Linux and other POSIX systems.
+//
+//   systems::PosixSystem system;
+//   automation::Locale::SetCurrent(system.CurrentLocale());
+#pragma once
+
+#include <string>
+
+#include "automation/locale.h"
+#include "platform/system.h"
+
+namespace rangewerks::systems {
+
+class PosixSystem final : public platform::System {
+ public:
+  /// The shared library or the program that this code was linked into.
+  std::string LibraryFile() const override;
+  /// As LC_ALL, the LC_ variables and LANG say, read anew at each call; the locale of the process
+  /// has no say and isn't changed. The default Locale stands for the "C" locale, and for one that
+  /// isn't installed.
+  automation::Locale CurrentLocale() const override;
+};
+
+}  // namespace rangewerks::systems
