@@ -279,6 +279,19 @@ TEST_F(SetIfRangesExist, AFailureOutsideTheTestedStepsStopsThePassAndKeepsWhatIs
   EXPECT_FALSE(b->get_RangeExists());
 }
 
+TEST_F(SetIfRangesExist, TheHostCallsGrowWithTheNamesAndNotWithTheDeclaredRanges) {
+  list->let_SheetRangeNames(true);
+  for (int i = 0; i < 20; ++i) {
+    Define("Sheet1__n" + std::to_string(i) + "_", "=Sheet1!$A$1");
+  }
+  const auto calls = [&] { return CallsOf([&] { list->SetIfRangesExist(); }).size(); };
+  EXPECT_EQ(calls(), 5U + 20U);
+  for (int i = 0; i < 500; ++i) Declare("absent" + std::to_string(i));
+  EXPECT_EQ(calls(), 5U + 20U);
+  for (int i = 0; i < 10; ++i) Declare("n" + std::to_string(i) + "_");
+  EXPECT_EQ(calls(), 5U + 20U + 10U);
+}
+
 class Locating : public SheetFixture {
  protected:
   /// Declares and defines a range on the list's sheet and finds it.
