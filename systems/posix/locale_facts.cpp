@@ -22,7 +22,7 @@ using LocaleTables = std::unique_ptr<std::remove_pointer_t<locale_t>, FreeLocale
 std::string ToUtf8(std::string text, const char* codeset) {
   // NOLINTNEXTLINE(performance-no-int-to-ptr): how iconv says that it can't
   static const auto kNone = reinterpret_cast<iconv_t>(-1);
-  const iconv_t converter = iconv_open("UTF-8", codeset);
+  void* const converter = iconv_open("UTF-8", codeset);
   if (converter == kNone) return text;
   std::string converted(4 * text.size(), '\0');
   char* from = text.data();
