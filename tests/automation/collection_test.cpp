@@ -13,7 +13,6 @@ namespace {
 using automation::Collection;
 using automation::ErrorNumber;
 using automation::ErrorValue;
-using automation::Variant;
 using ::testing::ElementsAre;
 
 Collection<std::string> Letters() {

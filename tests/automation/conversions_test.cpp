@@ -22,7 +22,6 @@ using automation::ErrorValue;
 using automation::Invocation;
 using automation::IsDate;
 using automation::IsNumeric;
-using automation::Kind;
 using automation::Locale;
 using automation::Member;
 using automation::Null;

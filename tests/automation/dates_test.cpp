@@ -15,7 +15,6 @@ namespace {
 using automation::Date;
 using automation::DateOf;
 using automation::ErrorNumber;
-using automation::FormatDate;
 using automation::IsDate;
 using automation::IsoDate;
 using automation::Locale;

@@ -13,9 +13,7 @@ namespace rangewerks::tests {
 namespace {
 
 using automation::Argument;
-using automation::ArgumentInfo;
 using automation::AutomationClass;
-using automation::CallKind;
 using automation::Error;
 using automation::ErrorNumber;
 using automation::Member;
