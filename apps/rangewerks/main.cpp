@@ -75,8 +75,7 @@ int Run(int argc, char** argv) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) return app.exit(error);
     return Tell(std::string(error.what()) + "\nrangewerks read --help tells how to call it.");
   }
-  rangewerks::automation::Locale::SetCurrent(
-      rangewerks::systems::posix::PosixSystem().CurrentLocale());
+  rangewerks::automation::Locale::SetCurrent(rangewerks::systems::PosixSystem().CurrentLocale());
   return RunRead(options, {std::cout, std::cerr, isatty(STDERR_FILENO) == 1});
 }
 

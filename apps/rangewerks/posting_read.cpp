@@ -15,12 +15,22 @@ namespace {
 using automation::Error;
 using automation::Variant;
 
+/// In single quotes, as addresses have it.
+std::string QuotedSheet(const std::string& name) {
+  std::string quoted = "'";
+  for (const char each : name) {
+    if (each == '\'') quoted += each;
+    quoted += each;
+  }
+  return quoted + '\'';
+}
+
 /// "$B$7:$B$9" as "B7:B9", with the sheet in front when it is another than the one that is read.
 std::string ShownAddress(const excel::Range& area, const std::string& sheet) {
   std::string address = area.get_Address();
   std::erase(address, '$');
   const std::string place = area.get_Parent().get_Name();
-  return place == sheet ? address : "'" + place + "'!" + address;
+  return place == sheet ? address : QuotedSheet(place) + '!' + address;
 }
 
 /// What the cell holds, as text.
