@@ -1,6 +1,5 @@
 #include "automation/number_text.h"
 
-#include <array>
 #include <charconv>
 #include <cmath>
 #include <cstdint>
@@ -10,8 +9,6 @@
 
 namespace rangewerks::automation {
 namespace {
-
-constexpr int kSignificantDigits = 15;
 
 /// Takes a text apart from the front.
 class Scanner {
@@ -166,41 +163,6 @@ std::int64_t Magnitude(std::string_view digits) {
   return isNegative ? place - exponent : place + exponent;
 }
 
-/// "d.ddde±xx" with 15 significant digits, taken apart.
-struct Scientific {
-  bool isNegative;
-  std::string_view digits;  ///< without the zeros at the end, at least one
-  int exponent;
-};
-
-template <std::size_t N>
-Scientific ToScientific(double value, std::array<char, N>& buffer) {
-  char* const start = buffer.data();
-  const auto [end, error] = std::to_chars(start, start + N, std::abs(value),
-                                          std::chars_format::scientific, kSignificantDigits - 1);
-  const std::string_view text(start, static_cast<std::size_t>(end - start));
-  const std::size_t mark = text.find('e');
-  int exponent = 0;
-  const std::size_t number = text[mark + 1] == '+' ? mark + 2 : mark + 1;
-  std::from_chars(start + number, end, exponent);
-  buffer[1] = buffer[0];  // over the point, so that the digits are one run
-  std::string_view digits = text.substr(1, mark - 1);
-  while (digits.size() > 1 && digits.back() == '0') digits.remove_suffix(1);
-  return {std::signbit(value) && value != 0, digits, exponent};
-}
-
-std::string WriteExponent(int exponent) {
-  const int magnitude = std::abs(exponent);
-  std::string text = exponent < 0 ? "E-" : "E+";
-  if (magnitude < 10) text += '0';
-  return text + std::to_string(magnitude);
-}
-
-std::string WriteSpecial(double value) {
-  if (std::isnan(value)) return "1.#QNAN";
-  return value < 0 ? "-1.#INF" : "1.#INF";
-}
-
 }  // namespace
 
 unsigned DigitValue(char c) {
@@ -233,28 +195,6 @@ NumberRead ReadNumber(std::string_view text, const Locale& locale) {
   const double value = DecimalValue(digits);
   if (std::isinf(value)) return {ReadOutcome::Overflow};
   return {ReadOutcome::Read, around.isNegative && value != 0 ? -value : value};
-}
-
-std::string WriteNumber(double value, const Locale& locale) {
-  if (!std::isfinite(value)) return WriteSpecial(value);
-  std::array<char, 32> buffer{};
-  const auto [isNegative, digits, exponent] = ToScientific(value, buffer);
-  const int count = static_cast<int>(digits.size());
-  std::string text = isNegative ? "-" : "";
-  if (exponent >= kSignificantDigits || exponent < -4) {
-    text += digits.front();
-    if (count > 1) text.append(locale.decimalSeparator).append(digits.substr(1));
-    return text + WriteExponent(exponent);
-  }
-  if (exponent < 0) {
-    text.append("0").append(locale.decimalSeparator);
-    return text.append(static_cast<std::size_t>(-exponent - 1), '0').append(digits);
-  }
-  const auto whole = static_cast<std::size_t>(exponent) + 1;
-  if (digits.size() <= whole) return text.append(digits).append(whole - digits.size(), '0');
-  return text.append(digits.substr(0, whole))
-      .append(locale.decimalSeparator)
-      .append(digits.substr(whole));
 }
 
 }  // namespace rangewerks::automation
