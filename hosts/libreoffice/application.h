@@ -1,0 +1,28 @@
+// The late-bound Application: the office itself.
+#pragma once
+
+#include "hosts/libreoffice/host_object.h"
+
+namespace rangewerks::hosts::libreoffice {
+
+class Application final : public HostObject {
+ public:
+  explicit Application(SessionPointer session) : HostObject(std::move(session)) {}
+  static std::shared_ptr<Application> Of(const SessionPointer& session);
+  const MemberTable& Members() const override;
+
+ private:
+  Variant GetName() const;
+  Variant GetVersion() const;
+  Variant GetWorkbooks(const Variant& index) const;
+  Variant GetNames(const Variant& index) const;
+  Variant GetSheets(const Variant& index) const;
+  Variant GetActiveWorkbook() const;
+  Variant GetActiveSheet() const;
+  Variant GetSelection() const;
+  Variant GetInternational(const Variant& index) const;
+  Variant GetApplication() const;
+  Variant Intersect(const Variant& first, const Variant& second) const;
+};
+
+}  // namespace rangewerks::hosts::libreoffice

@@ -1,0 +1,58 @@
+// LibreOffice Calc as a spreadsheet program that is driven by name, like any other host.
+//
+//   Office office;
+//   Object book = office.Open("ledger.xlsx");
+//   Object sheet = book.Get(Member("Sheets"), {"Ledger"}).AsObject();
+//   office.SaveCopyAs(book, "copy.ods");
+//
+// What this host can't do is listed in docs/hosts.md.
+#pragma once
+
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "automation/object.h"
+
+namespace rangewerks::hosts::libreoffice {
+
+struct OpenOptions {
+  /// Opens without a lock: also a file that somebody else has open.
+  bool readOnly = false;
+};
+
+/// A private office process, started headless on a pipe of its own with its own profile folder: no
+/// other office is touched. It ends with this object, and also when the program dies. Objects that
+/// came from it may live on, but each call on them then raises 1004.
+///
+/// All calls come from one thread. Everything raises 1004, with what failed, where, and if possible
+/// what to do.
+class Office {
+ public:
+  /// Starts, which takes about a second. The office reads and writes numbers and dates in the
+  /// locale of the process's environment (LC_ALL and its like).
+  Office();
+  Office(const Office&) = delete;
+  Office& operator=(const Office&) = delete;
+  ~Office();
+
+  /// The office as the object model's Application.
+  automation::Object Application();
+  /// Opens an xlsx, xlsm, xls or ods file; it becomes the active workbook. A file that is open here
+  /// already is brought to the front. Macros don't run.
+  automation::Object Open(const std::string& path, OpenOptions options = {});
+  /// A new workbook with these sheets (one at least); it is the active one and its first sheet is
+  /// in front.
+  automation::Object NewWorkbook(const std::vector<std::string>& sheets);
+  /// Writes a copy in the format that the extension tells: xlsx, xlsm, xls or ods. The file appears
+  /// whole or not at all.
+  void SaveCopyAs(const automation::Object& workbook, const std::string& path);
+  /// Closes without saving.
+  void Close(const automation::Object& workbook);
+
+ private:
+  struct Parts;
+  std::unique_ptr<Parts> parts_;
+};
+
+}  // namespace rangewerks::hosts::libreoffice
