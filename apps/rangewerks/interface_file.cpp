@@ -109,8 +109,9 @@ std::shared_ptr<clsInterfaceRangeList> ParseInterface(const std::string& text) {
     });
   }
   FirstUses rangeNames;
+  fields.List("ranges");
+  fields.RefuseOthers();  // first: what is missing may be there under a misspelt name
   const Json& ranges = fields.RequiredList("ranges");
-  fields.RefuseOthers();
   if (ranges.empty()) fields.Refuse("ranges", "the list is empty; declare at least one range");
   ForEachObject(ranges, fields.PointerTo("ranges"),
                 [&](FieldReader& range) { ReadRange(range, rangeNames, *list); });

@@ -34,7 +34,8 @@ void AddRead(CLI::App& app, ReadOptions& options) {
   CLI::App* read =
       app.add_subcommand("read", "Print what a posting program would read from a workbook's sheet");
   read->add_option("BOOK", options.book, "The workbook: xlsx, xls, ods, or a JSON workbook file")
-      ->required();
+      ->required()
+      ->type_name("FILE");
   read->add_option(
           "--interface", options.interfaceFile,
           "The interface file: which ranges the sheet should have (docs/interface-file.md)")
@@ -56,6 +57,13 @@ void AddRead(CLI::App& app, ReadOptions& options) {
   read->footer(kReadFooter);
 }
 
+/// What is wrong with the arguments; CLI11's own words for a missing command name none.
+std::string WordsOf(const CLI::ParseError& error, const CLI::App& app, int argc, char** argv) {
+  if (!app.get_subcommands().empty()) return error.what();
+  return argc < 2 ? "say what to do; the one command is read"
+                  : "there is no command \"" + std::string(argv[1]) + "\"; the one command is read";
+}
+
 int Tell(const std::string& words) {
   std::cerr << "rangewerks: " << words << '\n';
   return kUnusable;
@@ -73,7 +81,7 @@ int Run(int argc, char** argv) {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) return app.exit(error);
-    return Tell(std::string(error.what()) + "\nrangewerks read --help tells how to call it.");
+    return Tell(WordsOf(error, app, argc, argv) + "\nrangewerks read --help tells how to call it.");
   }
   rangewerks::automation::Locale::SetCurrent(rangewerks::systems::PosixSystem().CurrentLocale());
   return RunRead(options, {std::cout, std::cerr, isatty(STDERR_FILENO) == 1});

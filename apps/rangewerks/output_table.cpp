@@ -48,8 +48,9 @@ std::string TitleOf(const std::string& book, const PostingRead& posting) {
   TextTable title({{}, {}});
   title.Add({"Workbook", OneLine(book, kWidestWords)});
   title.Add({"Sheet", OneLine(posting.sheet, kWidestWords)});
-  title.Add({"Names", posting.usingSheetRangeNames ? "sheet scheme: each sheet has its own"
-                                                   : "plain scheme: without the sheet"});
+  title.Add(
+      {"Names", OneLine(posting.namesBeginWith, kWidestWords) + "<range>" +
+                    (posting.usingSheetRangeNames ? "  (sheet scheme)" : "  (plain scheme)")});
   return title.Render("");
 }
 

@@ -61,6 +61,7 @@ class Reading {
   Reading(clsInterfaceRangeList& list, const excel::Worksheet& sheet) : list_(list), sheet_(sheet) {
     result_.sheet = sheet.get_Name();
     result_.usingSheetRangeNames = list.get_UsingSheetRangeNames();
+    result_.namesBeginWith = NamesBeginWith();
   }
 
   PostingRead Run(const LineRead& lineRead) {
@@ -80,7 +81,7 @@ class Reading {
   void Describe(const clsExInputRange& record) {
     FoundRange range;
     range.name = record.get_RangeName();
-    range.lookedForAs = WorkbookName(range.name);
+    range.lookedForAs = result_.namesBeginWith + range.name;
     range.type = record.get_RangeDataType();
     range.decimalPlaces = record.get_DecimalPlaces();
     range.isMandatory = record.get_IsMandatory();
@@ -100,13 +101,13 @@ class Reading {
     result_.ranges.push_back(std::move(range));
   }
 
-  /// The name by which SetIfRangesExist knows the range: unlike FullRangeName, with the prefix
-  /// under the plain scheme too.
-  std::string WorkbookName(const std::string& name) const {
-    const std::string prefixed = list_.get_RangePrefix() + name;
+  /// Of the names by which SetIfRangesExist knows the ranges: unlike those of FullRangeName they
+  /// have the prefix under the plain scheme too.
+  std::string NamesBeginWith() const {
+    const std::string& prefix = list_.get_RangePrefix();
     return list_.get_UsingSheetRangeNames()
-               ? ExcelFunctions::RangeNameMultiTab(result_.sheet, prefixed)
-               : prefixed;
+               ? ExcelFunctions::RangeNameMultiTab(result_.sheet, prefix)
+               : prefix;
   }
 
   /// How many lines of a range are read: its rows, and one where the area can't be told, so that

@@ -60,6 +60,7 @@ struct BadCell {
 struct PostingRead {
   std::string sheet;
   bool usingSheetRangeNames = false;
+  std::string namesBeginWith;        ///< what stands in front of a declared name in lookedForAs
   std::vector<FoundRange> ranges;    ///< all, as declared
   std::vector<std::size_t> headers;  ///< places in `ranges` of those used as headers
   std::vector<std::size_t> details;  ///< and of those used as detail

@@ -46,21 +46,22 @@ auto WithHost(const std::string& doing, const Step& step) {
 }
 
 Object OpenBook(Spreadsheet& program, const ReadOptions& options, HostKind kind) {
-  const bool isOfficeFile = HostFor(options.book) == HostKind::LibreOffice;
   try {
     return program.Open(options.book);
   } catch (const Error& error) {
-    throw Failure(options.book + ": can't open the workbook: " + error.Description() +
-                  (kind == HostKind::Workbook && isOfficeFile
-                       ? "\nThe host \"workbook\" reads JSON workbook files only; for other files "
-                         "use --host libreoffice."
-                       : ""));
+    std::string words = "can't open the workbook: " + error.Description();
+    if (kind == HostKind::Workbook && HostFor(options.book) != kind) {
+      words +=
+          "\nThe host \"workbook\" reads JSON workbook files only; for others use --host "
+          "libreoffice.";
+    }
+    throw Failure(words);
   }
 }
 
-std::vector<excel::Worksheet> SheetsOf(const Object& book) {
+std::vector<excel::Worksheet> SheetsOf(const Object& application) {
   std::vector<excel::Worksheet> sheets;
-  const auto walk = book.Get(Member("Sheets")).AsObject().Enumerate();
+  const auto walk = application.Get(Member("Sheets")).AsObject().Enumerate();
   for (Variant sheet; walk->Next(sheet);) sheets.emplace_back(sheet.AsObject());
   return sheets;
 }
@@ -76,11 +77,12 @@ std::string QuotedNames(const std::vector<excel::Worksheet>& sheets) {
   return names;
 }
 
-excel::Worksheet ChosenSheet(const Object& book, const ReadOptions& options) {
+/// A sheet of the active workbook.
+excel::Worksheet ChosenSheet(const Object& application, const ReadOptions& options) {
   if (options.sheet.empty()) {
-    return excel::Worksheet(book.Get(Member("ActiveSheet")).AsObject());
+    return excel::Worksheet(application.Get(Member("ActiveSheet")).AsObject());
   }
-  const auto sheets = SheetsOf(book);
+  const auto sheets = SheetsOf(application);
   for (const excel::Worksheet& sheet : sheets) {
     if (automation::EqualText(sheet.get_Name(), options.sheet)) return sheet;
   }
@@ -125,10 +127,11 @@ PostingRead ReadBook(const ReadOptions& options, clsInterfaceRangeList& list, Co
   const HostKind kind = options.host.value_or(HostFor(options.book));
   const auto program =
       WithHost("can't start the spreadsheet program", [&] { return StartSpreadsheet(kind); });
-  const Object book = OpenBook(*program, options, kind);
+  const excel::Workbook book(OpenBook(*program, options, kind));
   return WithHost(options.book + ": reading stopped", [&] {
-    const excel::Worksheet sheet = ChosenSheet(book, options);
-    Locale::SetCurrent(InLineWith(sheet.get_Application(), Locale::Current()));
+    const excel::Application application = book.get_Application();
+    const excel::Worksheet sheet = ChosenSheet(application, options);
+    Locale::SetCurrent(InLineWith(application, Locale::Current()));
     Progress progress(console.messages, console.messagesOnTerminal);
     return ReadPosting(list, sheet, [&](auto row, auto rows) { progress.Show(row, rows); });
   });
@@ -143,7 +146,7 @@ ExitStatus RunRead(const ReadOptions& options, Console console) {
   if (!posting.AnyRangeExists()) RefuseWithoutRanges(options.book, posting, *list);
 
   console.output << TextOf(options, posting) << std::flush;
-  if (!console.output) throw Failure("the result can't be written: standard output is closed");
+  if (!console.output) throw Failure("the result can't be written to standard output");
   if (options.output == OutputForm::Csv) console.messages << BadCellLinesOf(posting);
   return posting.badCells.empty() ? kNoBadCells : kBadCells;
 }

@@ -182,7 +182,9 @@ TEST(InterfaceFile, AnUnknownFieldIsRefusedWithTheNearestKnownOne) {
   EXPECT_EQ(RangeRefusal(R"(, "Mandatory": true)"),
             "/ranges/0/Mandatory (range amount): there is no field of this name; did you mean "
             "IsMandatory?");
-  EXPECT_EQ(Refusal(R"({"Ranges": []})"), "/ranges: the field is missing, expected a list, […]");
+  EXPECT_EQ(Refusal(R"({"Ranges": []})"),
+            "/Ranges: there is no field of this name; did you mean ranges?");
+  EXPECT_EQ(Refusal("{}"), "/ranges: the field is missing, expected a list, […]");
   EXPECT_EQ(Refusal(R"({"ranges": [], "colour": 1})"), "/colour: there is no field of this name");
 }
 

@@ -14,14 +14,14 @@ using tests::SamplePosting;
 TEST(TableOutput, ShowsHeaderRowsAndBadCellsAligned) {
   EXPECT_EQ(TableOf("journal.xlsx", SamplePosting()), R"(Workbook  journal.xlsx
 Sheet     2024 Q1
-Names     sheet scheme: each sheet has its own
+Names     _2024_Q1__<range>  (sheet scheme)
 
 Header
   batch         JNL-7
   posting_date  2024-01-31
 
 Detail: 2 rows
-  row  details     amount  reverse
+  row  details      amount  reverse
   ───  ──────────  ───────  ───────
     1  Rent, "Q1"  1250.50  yes
     2  !2               !1
@@ -62,7 +62,7 @@ TEST(TableOutput, ShowsANumberWithTheDecimalPlacesOfItsRange) {
 }
 
 TEST(JsonOutput, HasEverything) {
-  EXPECT_EQ(JsonOf("journal.xlsx", SamplePosting()), R"({
+  EXPECT_EQ(JsonOf("journal.xlsx", SamplePosting()), R"json({
   "book": "journal.xlsx",
   "sheet": "2024 Q1",
   "ranges": {
@@ -172,7 +172,7 @@ TEST(JsonOutput, HasEverything) {
     }
   ]
 }
-)");
+)json");
 }
 
 TEST(JsonOutput, WritesNumbersSoThatTheyReadBackTheSame) {

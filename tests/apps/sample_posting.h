@@ -29,6 +29,7 @@ inline apps::PostingRead SamplePosting() {
   PostingRead posting;
   posting.sheet = "2024 Q1";
   posting.usingSheetRangeNames = true;
+  posting.namesBeginWith = "_2024_Q1__";
   posting.ranges = {range("batch", rdtString, RangeUse::Header, "B1", 1),
                     range("posting_date", rdtDate, RangeUse::Header, "B2", 1),
                     range("project", rdtString, RangeUse::Header, "", 0),
