@@ -1,6 +1,7 @@
 #include "hosts/workbook/file_cell.h"
 
-#include <cstdlib>
+#include <cstdint>
+#include <string_view>
 
 #include "automation/conversions.h"
 #include "hosts/workbook/cell_errors.h"
@@ -9,49 +10,63 @@ namespace rangewerks::hosts::workbook {
 namespace {
 
 constexpr std::int64_t kLargestExactInteger = std::int64_t{1} << 53;
-
 constexpr double kSecondsOfDay = 86400;
 
-/// The digits at a place of a text as a number; -1 when they aren't all digits.
-int Digits(const std::string& text, std::size_t from, std::size_t count) {
+/// The digits at a place of a text, which are all digits, as a number.
+int Digits(std::string_view text, std::size_t from, std::size_t count) {
   int number = 0;
-  for (std::size_t i = from; i < from + count; ++i) {
-    if (i >= text.size() || text[i] < '0' || text[i] > '9') return -1;
-    number = number * 10 + (text[i] - '0');
-  }
+  for (const char digit : text.substr(from, count)) number = number * 10 + (digit - '0');
   return number;
+}
+
+/// The day of "2024-01-31"; the text's form has been looked at.
+automation::Date ReadDay(const JsonEntry& entry, const std::string& text) {
+  try {
+    return automation::DateOf(Digits(text, 0, 4), Digits(text, 5, 2), Digits(text, 8, 2));
+  } catch (const automation::Error&) {
+    entry.FailExpecting("a day of the calendar");
+  }
+}
+
+/// Whether a text has that form: "0" stands for any digit, all else for itself.
+bool HasForm(std::string_view text, std::string_view form) {
+  if (text.size() != form.size()) return false;
+  for (std::size_t i = 0; i < form.size(); ++i) {
+    const bool isDigit = text[i] >= '0' && text[i] <= '9';
+    if (form[i] == '0' ? !isDigit : text[i] != form[i]) return false;
+  }
+  return true;
 }
 
 /// "2024-01-31" or "2024-01-31T13:45:00".
 automation::Date ReadDate(const JsonEntry& entry) {
   const std::string text = entry.Text();
-  const auto fail = [&] {
-    entry.FailExpecting("a date such as \"2024-01-31\" or \"2024-01-31T13:45:00\"");
-  };
-  const bool withTime = text.size() == 19 && text[10] == 'T' && text[13] == ':' && text[16] == ':';
-  if (!withTime && text.size() != 10) fail();
-  const int year = Digits(text, 0, 4);
-  const int month = Digits(text, 5, 2);
-  const int day = Digits(text, 8, 2);
-  if (text[4] != '-' || text[7] != '-' || year < 1900 || month < 1 || day < 1) fail();
-  automation::Date date = entry.Do([&] { return automation::DateOf(year, month, day); });
-  if (!withTime) return date;
-  const int hour = Digits(text, 11, 2);
-  const int minute = Digits(text, 14, 2);
-  const int second = Digits(text, 17, 2);
-  if (hour < 0 || hour > 23 || minute < 0 || minute > 59 || second < 0 || second > 59) fail();
-  date.serial += (hour * 3600 + minute * 60 + second) / kSecondsOfDay;
-  return date;
+  if (HasForm(text, "0000-00-00")) return ReadDay(entry, text);
+  if (HasForm(text, "0000-00-00T00:00:00")) {
+    const int hour = Digits(text, 11, 2);
+    const int minute = Digits(text, 14, 2);
+    const int second = Digits(text, 17, 2);
+    if (hour < 24 && minute < 60 && second < 60) {
+      return {ReadDay(entry, text).serial + (hour * 3600 + minute * 60 + second) / kSecondsOfDay};
+    }
+  }
+  entry.FailExpecting("a date such as \"2024-01-31\" or \"2024-01-31T13:45:00\"");
+}
+
+bool IsExact(const JsonEntry::Json& number) {
+  if (number.is_number_unsigned()) {
+    return number.get<std::uint64_t>() <= std::uint64_t{kLargestExactInteger};
+  }
+  if (!number.is_number_integer()) return true;
+  const auto integer = number.get<std::int64_t>();
+  return integer >= -kLargestExactInteger && integer <= kLargestExactInteger;
 }
 
 Variant ReadNumber(const JsonEntry& entry) {
-  const auto& value = entry.Value();
-  const bool tooLarge =
-      value.is_number_unsigned()
-          ? value.get<std::uint64_t>() > std::uint64_t{kLargestExactInteger}
-          : value.is_number_integer() && std::abs(value.get<std::int64_t>()) > kLargestExactInteger;
-  if (tooLarge) entry.FailExpecting("a number that a cell can hold exactly; a text can hold it");
-  return value.get<double>();
+  if (!IsExact(entry.Value())) {
+    entry.FailExpecting("a number that a cell can hold exactly; a text can hold it");
+  }
+  return entry.Value().get<double>();
 }
 
 /// A value written plainly: null, a boolean, a number or a text.
@@ -98,20 +113,21 @@ void RequireOneKind(const JsonEntry& entry) {
 
 Cell ReadFileCell(const JsonEntry& entry) {
   Cell cell;
-  if (!entry.Value().is_object()) {
-    entry.Do([&] { Put(cell, ReadPlain(entry)); });
+  if (entry.Value().is_object()) {
+    entry.RequireKeys({"value", "date", "error", "formula", "shown", "format"});
+    RequireOneKind(entry);
+    if (entry.Has("format")) cell.format = entry.At("format").Text();
+  }
+  if (entry.Has("formula")) {
+    cell.formula = ReadFormula(entry.At("formula"));
+    if (!entry.Has("shown")) return cell;
+    const Variant shown = ReadValue(entry.At("shown"));
+    entry.Do([&] { PutShown(cell, shown); });
     return cell;
   }
-  entry.RequireKeys({"value", "date", "error", "formula", "shown", "format"});
-  RequireOneKind(entry);
-  if (entry.Has("format")) cell.format = entry.At("format").Text();
-  if (!entry.Has("formula")) {
-    if (entry.Has("shown")) entry.Fail("\"shown\" is for a cell with a \"formula\"");
-    entry.Do([&] { Put(cell, ReadValue(entry)); });
-    return cell;
-  }
-  cell.formula = ReadFormula(entry.At("formula"));
-  if (entry.Has("shown")) entry.Do([&] { PutShown(cell, ReadValue(entry.At("shown"))); });
+  if (entry.Has("shown")) entry.Fail("\"shown\" is for a cell with a \"formula\"");
+  const Variant value = ReadValue(entry);
+  entry.Do([&] { Put(cell, value); });
   return cell;
 }
 

@@ -70,6 +70,8 @@ JsonEntry::File::File(std::string path, const std::string& text) : path_(std::mo
     root_ = Json::parse(text, KeyWatch(path_));
   } catch (const Json::parse_error& error) {
     Refuse(path_ + ": " + LineAndColumn(text, error.byte) + ": this isn't JSON: " + error.what());
+  } catch (const Json::out_of_range& error) {
+    Refuse(path_ + ": a number is too large: " + error.what());
   }
 }
 

@@ -108,19 +108,26 @@ std::optional<Number> ReadNumber(std::string_view text, const Locale& locale) {
   return Number{value / kPercent, decimals.empty() ? "0%" : "0.00%"};
 }
 
+/// A blank among digits stands only between a date and its time: "1 1/2" is no date.
+bool HasStrayBlank(std::string_view text) {
+  const std::size_t blank = text.find(' ');
+  if (blank == std::string_view::npos) return false;
+  const bool second = text.find(' ', blank + 1) != std::string_view::npos;
+  return second || text.find(':') == std::string_view::npos;
+}
+
 bool MayBeDate(std::string_view text, const Locale& locale) {
-  const bool hasDigit = std::any_of(text.begin(), text.end(), IsDigit);
-  const bool hasLetter = std::any_of(text.begin(), text.end(), IsLetter);
-  const bool hasMark = text.find_first_of("/-:") != std::string_view::npos;
-  const bool hasDot = text.find('.') != std::string_view::npos;
-  if (hasDot && locale.dateSeparator != ".") return false;
+  if (std::none_of(text.begin(), text.end(), IsDigit)) return false;
+  if (text.find('.') != std::string_view::npos && locale.dateSeparator != ".") return false;
+  if (std::any_of(text.begin(), text.end(), IsLetter)) return true;
   const bool hasSeparator =
       !locale.dateSeparator.empty() && text.find(locale.dateSeparator) != std::string_view::npos;
-  return hasDigit && (hasMark || hasSeparator || hasLetter);
+  const bool hasMark = text.find_first_of("/-:") != std::string_view::npos;
+  return (hasSeparator || hasMark) && !HasStrayBlank(text);
 }
 
 std::optional<Date> ReadDate(const std::string& text, const Locale& locale) {
-  if (!MayBeDate(text, locale) || !IsDate(text, locale)) return std::nullopt;
+  if (!MayBeDate(automation::Trim(text), locale) || !IsDate(text, locale)) return std::nullopt;
   const Date date = ToDate(text, locale);
   const bool isTime = date.serial >= 0 && date.serial < 1;
   if (isTime && text.find(':') == std::string::npos) return std::nullopt;

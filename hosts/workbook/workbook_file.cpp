@@ -20,8 +20,9 @@ using InternationalFacts = std::vector<std::pair<std::int32_t, Variant>>;
 std::string TextOfFile(const std::string& path) {
   std::ifstream file(path, std::ios::binary);
   std::ostringstream text;
-  if (file) text << file.rdbuf();
-  if (!file || !text) {
+  file.peek();  // an empty file ends here, a folder fails
+  if (!file.fail() && !file.eof()) text << file.rdbuf();
+  if (file.fail() || !text) {
     throw automation::Error(static_cast<std::int32_t>(automation::ErrorNumber::FileNotFound),
                             kSource,
                             path + ": the file can't be read; check the path and its rights");
@@ -99,7 +100,8 @@ void ReadBlock(Sheet& sheet, const JsonEntry& block) {
 void ReadSheet(Book& book, const JsonEntry& entry) {
   entry.RequireKeys({"name", "cells", "rows"});
   const JsonEntry name = entry.At("name");
-  const SheetPointer sheet = name.Do([&] { return book.AddSheet(name.Text()); });
+  const std::string text = name.Text();
+  const SheetPointer sheet = name.Do([&] { return book.AddSheet(text); });
   if (entry.Has("cells")) {
     for (const auto& [address, cell] : entry.At("cells").Members()) {
       PutCell(*sheet, PlaceOf(address, cell), cell);
@@ -118,9 +120,9 @@ void ReadNames(Book& book, const JsonEntry& entry) {
     if (!content.Text().starts_with('=')) {
       content.FailExpecting("a text that begins with \"=\", such as \"=Sheet1!$A$1:$A$3\"");
     }
-    content.Do([&, &key = name, &text = content] {
-      return DefineName(book, key, nullptr, ParseContent(book, text.Text()));
-    });
+    const std::string text = content.Text();
+    content.Do(
+        [&, &key = name] { return DefineName(book, key, nullptr, ParseContent(book, text)); });
   }
 }
 
