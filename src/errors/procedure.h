@@ -16,6 +16,7 @@
 
 #include <cstdint>
 #include <string_view>
+#include <utility>
 
 #include "automation/error.h"
 
@@ -35,20 +36,29 @@ class Line {
   std::int32_t line_ = 0;
 };
 
-/// Raises `error` again with `literal` and the line, directly behind it, added to its source.
+/// Raises `error` again with `literal`, the line directly behind it, and `trailing` added to its
+/// source.
 [[noreturn]] void PassOn(const automation::Error& error, std::string_view literal,
-                         std::int32_t line);
+                         std::int32_t line, std::string_view trailing = {});
 
 /// Runs the body of a procedure and returns what it returns. `literal` is the procedure's fixed
-/// text, up to "Line#:".
-template <class Body>
-auto Procedure(std::string_view literal, Body&& body, std::int32_t start = __builtin_LINE()) {
+/// text, up to "Line#:". `trailing` gives the text that stands behind the line; it is asked only
+/// when something fails.
+template <class Body, class Trailing>
+auto ProcedureWith(const Trailing& trailing, std::string_view literal, Body&& body,
+                   std::int32_t start = __builtin_LINE()) {
   Line line(start);
   try {
     return body(line);
   } catch (const automation::Error& error) {
-    PassOn(error, literal, line.Reached());
+    PassOn(error, literal, line.Reached(), trailing());
   }
+}
+
+/// The same for a procedure that adds nothing behind its line, as nearly all.
+template <class Body>
+auto Procedure(std::string_view literal, Body&& body, std::int32_t start = __builtin_LINE()) {
+  return ProcedureWith([] { return std::string_view(); }, literal, std::forward<Body>(body), start);
 }
 
 }  // namespace rangewerks

@@ -12,9 +12,12 @@ using automation::Member;
 const Member kAddress{"Address"};
 const Member kApplication{"Application"};
 const Member kCells{"Cells"};
+const Member kClearContents{"ClearContents"};
 const Member kColumns{"Columns"};
 const Member kCount{"Count"};
 const Member kDelete{"Delete"};
+const Member kFormula{"Formula"};
+const Member kHasFormula{"HasFormula"};
 const Member kInternational{"International"};
 const Member kIntersect{"Intersect"};
 const Member kItem{"Item"};
@@ -43,6 +46,12 @@ Range Range::get_Cells(std::int32_t row, std::int32_t column) const {
 Variant Range::get_Value() const { return Get(kValue); }
 void Range::let_Value(const Variant& value) const { Let(kValue, value); }
 Variant Range::get_Default() const { return Get(Member::Default()); }
+std::string Range::get_Formula() const { return Text(Get(kFormula)); }
+bool Range::get_HasFormula() const {
+  const Variant result = Get(kHasFormula);
+  return !result.IsNull() && ToBoolean(result, Locale::Current());
+}
+void Range::ClearContents() const { Call(kClearContents); }
 std::string Range::get_Address() const { return Text(Get(kAddress)); }
 Range Range::get_Rows() const { return Typed<Range>(Get(kRows)); }
 Range Range::get_Columns() const { return Typed<Range>(Get(kColumns)); }

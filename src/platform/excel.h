@@ -41,6 +41,12 @@ class Range : public Object {
   void let_Value(const Variant& value) const;
   /// The default member without arguments, which is the value.
   Variant get_Default() const;
+  /// The content as entered, as text.
+  std::string get_Formula() const;
+  /// Whether the cells hold formulas; a mixture (null) counts as false.
+  bool get_HasFormula() const;
+  /// Clears values and formulas, and leaves formats and validation.
+  void ClearContents() const;
   /// The absolute address: "$C$3", and for a block "$C$3:$C$10".
   std::string get_Address() const;
   Range get_Rows() const;

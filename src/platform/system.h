@@ -1,6 +1,7 @@
 // What the library asks of the operating system.
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "automation/locale.h"
@@ -14,6 +15,8 @@ class System {
 
   /// The full path of the file that holds this library's code. Raises 53 when it can't be told.
   virtual std::string LibraryFile() const = 0;
+  /// The name under which the person has logged on, or nothing when it can't be told.
+  virtual std::optional<std::string> LoggedOnUser() const = 0;
   /// The facts of the person's locale.
   virtual automation::Locale CurrentLocale() const = 0;
 };

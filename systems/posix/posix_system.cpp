@@ -1,15 +1,21 @@
 #include "systems/posix/posix_system.h"
 
 #include <dlfcn.h>
+#include <pwd.h>
+#include <unistd.h>
 
+#include <cerrno>
 #include <filesystem>
 #include <system_error>
+#include <vector>
 
 #include "automation/error.h"
 #include "systems/posix/locale_facts.h"
 
 namespace rangewerks::systems {
 namespace {
+
+constexpr std::size_t kAccountSize = 1024;
 
 /// Some address within the code of this library.
 void Anchor() {}
@@ -34,6 +40,19 @@ std::string PosixSystem::LibraryFile() const {
   const auto program = std::filesystem::read_symlink("/proc/self/exe", failure);
   if (failure) throw automation::Error(automation::ErrorNumber::FileNotFound);
   return program.string();
+}
+
+std::optional<std::string> PosixSystem::LoggedOnUser() const {
+  const long suggested = sysconf(_SC_GETPW_R_SIZE_MAX);
+  std::vector<char> buffer(suggested > 0 ? static_cast<std::size_t>(suggested) : kAccountSize);
+  passwd entry{};
+  passwd* found = nullptr;
+  int result = 0;
+  while ((result = getpwuid_r(getuid(), &entry, buffer.data(), buffer.size(), &found)) == ERANGE) {
+    buffer.resize(buffer.size() * 2);
+  }
+  if (result != 0 || found == nullptr) return std::nullopt;
+  return std::string(entry.pw_name);
 }
 
 automation::Locale PosixSystem::CurrentLocale() const { return ReadLocale(); }

@@ -4,6 +4,7 @@
 //   automation::Locale::SetCurrent(system.CurrentLocale());
 #pragma once
 
+#include <optional>
 #include <string>
 
 #include "automation/locale.h"
@@ -15,6 +16,8 @@ class PosixSystem final : public platform::System {
  public:
   /// The shared library or the program that this code was linked into.
   std::string LibraryFile() const override;
+  /// The account name of the user that the process runs as.
+  std::optional<std::string> LoggedOnUser() const override;
   /// As LC_ALL, the LC_ variables and LANG say, read anew at each call; the locale of the process
   /// has no say and isn't changed. The default Locale stands for the "C" locale, and for one that
   /// isn't installed.
