@@ -1,14 +1,18 @@
-// Routines usable without a range list: how sheet names become parts of workbook names, and where
-// the library lives.
+// Routines usable without a range list: how sheet names become parts of workbook names, whether a
+// sheet's layout is sound, and where the library lives.
 #pragma once
 
 #include <memory>
 #include <string>
 
 #include "automation/member_table.h"
+#include "platform/excel.h"
 #include "platform/system.h"
+#include "rangelist/elgErrors.h"
 
 namespace rangewerks {
+
+class clsInterfaceRangeList;
 
 /// A global object of the library. Its methods hold no state.
 class ExcelFunctions final : public automation::AutomationClass {
@@ -29,6 +33,16 @@ class ExcelFunctions final : public automation::AutomationClass {
   /// The folder of the library's own file, without a separator behind it. Raises 53 when the
   /// system can't tell.
   std::string DllPath() const;
+
+  /// True when the layout of the ranges that the list has found on its sheet is sound; raises
+  /// 0x80040000 with what is wrong otherwise. Reads no cell. `xlsCurrent` isn't used.
+  static bool ValidateRanges(const std::shared_ptr<clsInterfaceRangeList>& irList,
+                             const excel::Worksheet& xlsCurrent);
+  /// True when a selection is one cell; raises 700 for several rows, 701 for several columns.
+  static bool ValidRangeForBrowse(const excel::Range& Rng);
+  /// Turns a date typed without separators (311299) or with a short year (31/12/99) into a full
+  /// date in the cell; the century is 20. Returns an empty text.
+  static std::string FormatDateRange(const excel::Range& rngTrg);
 
  private:
   std::shared_ptr<const platform::System> system_;

@@ -14,7 +14,8 @@
 // list believes about the sheet is what the last SetIfRangesExist left in the records.
 //
 // Each subject is defined in a file of its own: declaration.cpp, naming.cpp, locating.cpp,
-// typed_reads.cpp; members.cpp declares the public members once for all callers.
+// typed_reads.cpp, writes.cpp, clearing.cpp, bulk_values.cpp, size_checks.cpp, user_mapping.cpp;
+// members.cpp declares the public members once for all callers.
 #pragma once
 
 #include <cstdint>
@@ -28,6 +29,7 @@
 #include "model/colExInputRangeList.h"
 #include "model/colGroupHeadings.h"
 #include "platform/excel.h"
+#include "platform/system.h"
 #include "rangelist/RangewerksErrors.h"
 
 namespace rangewerks {
@@ -38,6 +40,10 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   using Object = automation::Object;
   using Variant = automation::Variant;
   using Record = colExInputRangeList::Record;
+
+  /// `system` tells who is logged on; without one nobody is.
+  explicit clsInterfaceRangeList(std::shared_ptr<const platform::System> system = nullptr)
+      : system_(std::move(system)) {}
 
   const automation::MemberTable& Members() const override;
   std::unique_ptr<automation::Enumerator> Enumerate() override { return ranges_->Enumerate(); }
@@ -177,6 +183,69 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   bool get_ValidateDecimalPlaces() const { return validateDecimalPlaces_; }
   void let_ValidateDecimalPlaces(bool value) { validateDecimalPlaces_ = value; }
 
+  // --- writes and clearing -----------------------------------------------------------------------
+  //
+  // `lIndex` is the 1-based line; a range that acts as a header is written to in its first cell. A
+  // declared range that isn't on the sheet is passed over in silence; a name that isn't declared
+  // raises 5. The switches LeaveBlankOnPopulate and LeaveFormulaOnPopulate can refuse a cell.
+
+  void PopulateDoubleRange(const std::string& sRangeName, double dValue, std::int32_t lIndex) const;
+  /// Writes "Y" or "N".
+  void PopulateYNRange(const std::string& sRangeName, bool bVal, std::int32_t lIndex) const;
+  /// Writes a text, without its trailing blanks when StripSpacesOnDownload is set.
+  void PopulateRange(const std::string& sRangeName, const std::string& sValue,
+                     std::int32_t lIndex) const;
+  /// Writes a date without its time of day; the zero date empties the cell.
+  void PopulateDateRange(const std::string& sRangeName, Date datValue, std::int32_t lIndex) const;
+  /// Writes a field of a recordset's current row, keeping its kind; null becomes an empty text.
+  /// `rsUp` is any object that answers Fields(name).Value.
+  void PopulateRangeRs(const Object& rsUp, const std::string& sRangeName,
+                       const std::string& sFldName, std::int32_t lIndex) const;
+  /// Clears the whole range, formulas included; formats and validation stay.
+  void ClearRange(const std::string& sRangeName) const;
+  /// Clears the ranges with that Tag as the last SetIfRangesExist found them, except those whose
+  /// Group or RangeName an exclusion collection holds, and those with a formula unless
+  /// `bDontCheckFormula`.
+  void ClearRangesForTag(const std::string& sTag, const Object& colExcludeGroups = {},
+                         const Object& colExcludeRanges = {}, bool bDontCheckFormula = false) const;
+  /// Finds out what the sheet has and clears it but for the kinds left out; a range with a formula
+  /// stays unless DoNotCheckIsFormula is set.
+  void ClearAllRanges(bool bNotHeader = false, bool bNotSageCompany = false,
+                      bool bNotHeaderDetail = false);
+  /// Finds out what the sheet has and clears the detail ranges that have no formula.
+  void ClearDetailRanges();
+  /// Whether any cell of a declared range holds a formula.
+  bool IsFormula(const std::string& sRangeName) const;
+
+  // --- bulk values and size checks ---------------------------------------------------------------
+
+  /// Reads a line of every declared range of that kind, download ranges left out, into Value and
+  /// IsValueFound of its record.
+  void GetValues(std::int32_t lIndex, eRangeHeadDetailInd HeadDetailInd);
+  /// Writes Value of every declared range of that kind to a line.
+  void PutValues(std::int32_t lIndex, eRangeHeadDetailInd HeadDetailInd) const;
+  /// Whether a range has that many rows; `lSizeInvalidRange` is its number of rows when it hasn't,
+  /// and -1 otherwise. A range that isn't on the sheet passes.
+  bool CheckRangeSize(const std::string& sRngName, std::int32_t lCheckAgainstSize,
+                      std::int32_t& lSizeInvalidRange);
+  /// Raises 0x80040000 for the first range whose GroupRange is `sRngName` and whose number of rows
+  /// differs from that range's.
+  void CheckGroupSizes(const std::string& sRngName) const;
+
+  /// ExcelFunctions::ValidateRanges of this list.
+  bool ValidateRanges();
+
+  // --- user mapping ------------------------------------------------------------------------------
+
+  /// Declares "windows_users" and "sage_users".
+  void AddUserRangesToList();
+  /// The Sage user for the person at the machine: the one cell of "sage_users", or the cell beside
+  /// the person's name in "windows_users", whose last row never counts. Raises with the source
+  /// "GetSageUserName".
+  std::string GetSageUserName();
+  /// The name of the user logged on. Raises 0x80040000 when the system can't tell.
+  std::string GetWindowsUserName() const;
+
  private:
   void RenameRangeForSheet(const excel::Worksheet& sheet, const std::string& declared,
                            const std::string& oldName) const;
@@ -202,6 +271,22 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   Date DateFromText(const std::string& text) const;
   std::string DateFormatForLocale() const;
 
+  template <class Write>
+  void Populate(const char* literal, const std::string& sRangeName, std::int32_t lIndex,
+                const Write& write) const;
+  bool AllowPopulate(const excel::Range& cell) const;
+  void ClearUnlessFormula(const std::string& sRangeName, bool formulasToo) const;
+
+  template <class T>
+  void ReadValue(bool (clsInterfaceRangeList::*read)(const std::string&, T&, std::int32_t),
+                 std::int32_t lIndex, clsExInputRange& record);
+  void CheckMemberSize(const clsExInputRange& member, const std::string& master,
+                       std::int32_t masterSize) const;
+
+  bool ValidateUserRanges(bool bMissingIsAllowed);
+  std::string MappedSageUser(const excel::Range& sageUsers) const;
+
+  std::shared_ptr<const platform::System> system_;
   std::shared_ptr<colExInputRangeList> ranges_ = std::make_shared<colExInputRangeList>();
   excel::Worksheet actSheet_;
   Record currentRange_;  // what the last RangeExists found; used right after that call

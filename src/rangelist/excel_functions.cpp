@@ -1,5 +1,7 @@
+// The routines that make names, and the member table of all of them.
 #include "errors/procedure.h"
 #include "rangelist/ExcelFunctions.h"
+#include "rangelist/clsInterfaceRangeList.h"
 
 namespace rangewerks {
 
@@ -52,7 +54,13 @@ const automation::MemberTable& ExcelFunctions::Members() const {
                   "A sheet's part of a workbook name with the separator behind it.")
           .Method(3, "RangeNameMultiTab", &C::RangeNameMultiTab, {{"sSheetName"}, {"sRngName"}},
                   "The workbook name of a range on a sheet.")
-          .Method(4, "DllPath", &C::DllPath, {}, "The folder of the library's own file.");
+          .Method(4, "DllPath", &C::DllPath, {}, "The folder of the library's own file.")
+          .Method(5, "ValidateRanges", &C::ValidateRanges, {{"irList"}, {"xlsCurrent"}},
+                  "Whether the layout of a list's ranges is sound.")
+          .Method(6, "ValidRangeForBrowse", &C::ValidRangeForBrowse, {{"Rng"}},
+                  "Whether a selection can take a browse.")
+          .Method(7, "FormatDateRange", &C::FormatDateRange, {{"rngTrg"}},
+                  "Turns a short date in a cell into a full one.");
   return table;
 }
 

@@ -49,6 +49,8 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                "The headings under which ranges are shown.")
           .Get(15, "ActSheet", &C::get_ActSheet, "The sheet that all operations work on.")
           .Set(15, "ActSheet", &C::set_ActSheet, "The sheet that all operations work on.")
+          .Method(16, "ValidateRanges", &C::ValidateRanges, {},
+                  "Whether the layout of the ranges is sound.")
           .Method(17, "InRange", &C::InRange, {{"sRName"}, {"rngTarget"}},
                   "Whether an area touches a declared range.")
           .Method(18, "InAnyRange", &C::InAnyRange, {{"rngTarget"}, {"lOffset"}},
@@ -66,6 +68,8 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
           .Method(21, "ClearList", &C::ClearList, {}, "Takes all ranges out of the list.")
           .Method(22, "SetIfRangesExist", &C::SetIfRangesExist, {},
                   "Finds out which declared ranges the sheet has.")
+          .Method(23, "AddUserRangesToList", &C::AddUserRangesToList, {},
+                  "Declares the ranges of the user mapping.")
           .Method(25, "GetRange", &C::GetRange, {{"sName"}}, "The area of a declared range.")
           .Method(26, "GetValRange", &C::GetValRange, {{"sRName"}, {"dVal"}, {"lIndex"}},
                   "Reads a number.")
@@ -77,14 +81,32 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                   "Reads a text.")
           .Method(30, "GetDateRange", &C::GetDateRange, {{"sRName"}, {"datVal"}, {"lIndex"}},
                   "Reads a date.")
+          .Method(31, "PopulateRange", &C::PopulateRange, {{"sRangeName"}, {"sValue"}, {"lIndex"}},
+                  "Writes a text.")
+          .Method(32, "PopulateRangeRs", &C::PopulateRangeRs,
+                  {{"rsUp"}, {"sRangeName"}, {"sFldName"}, {"lIndex"}},
+                  "Writes a field of a recordset's row.")
+          .Method(33, "ClearRange", &C::ClearRange, {{"sRangeName"}},
+                  "Clears a range, formulas included.")
           .Method(34, "ChangeSESConnection", &C::ChangeSESConnection, {},
                   "Does nothing; kept for older callers.")
           .Method(35, "RangeExists", &C::RangeExists, {{"sRngName"}},
                   "Whether the sheet has a declared range.")
+          .Method(36, "GetSageUserName", &C::GetSageUserName, {},
+                  "The Sage user for the person at the machine.")
+          .Method(37, "GetWindowsUserName", &C::GetWindowsUserName, {},
+                  "The name of the user logged on.")
           .Method(38, "CorrectRangeNames", &C::CorrectRangeNames, {},
                   "Gives each workbook name the part of its own sheet.")
           .Method(42, "CellOffsetInRange", &C::CellOffsetInRange, {{"Rng"}, {"sRngName"}},
                   "The line of a cell in a range, or -1.")
+          .Method(43, "ClearAllRanges", &C::ClearAllRanges,
+                  {{"bNotHeader", false}, {"bNotSageCompany", false}, {"bNotHeaderDetail", false}},
+                  "Clears the ranges of the sheet but for the kinds left out.")
+          .Method(44, "ClearDetailRanges", &C::ClearDetailRanges, {},
+                  "Clears the detail ranges that have no formula.")
+          .Method(45, "IsFormula", &C::IsFormula, {{"sRangeName"}},
+                  "Whether any cell of a range holds a formula.")
           .Method(46, "Add", static_cast<AddMember>(&C::Add),
                   {{"RangeName"},
                    {"DetailIndicator"},
@@ -109,10 +131,19 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                "Number reads enforce DecimalPlaces.")
           .Let(50, "ValidateDecimalPlaces", &C::let_ValidateDecimalPlaces,
                "Number reads enforce DecimalPlaces.")
+          .Method(51, "PopulateDateRange", &C::PopulateDateRange,
+                  {{"sRangeName"}, {"datValue"}, {"lIndex"}}, "Writes a date.")
+          .Method(52, "CheckRangeSize", &C::CheckRangeSize,
+                  {{"sRngName"}, {"lCheckAgainstSize"}, {"lSizeInvalidRange"}},
+                  "Whether a range has that many rows.")
+          .Method(53, "CheckGroupSizes", &C::CheckGroupSizes, {{"sRngName"}},
+                  "Raises when a range of a group differs in rows from the group's master.")
           .Get(54, "UseNewBrowseShortcutName", &C::get_UseNewBrowseShortcutName,
                "Passed on to the browse shortcut.")
           .Let(54, "UseNewBrowseShortcutName", &C::let_UseNewBrowseShortcutName,
                "Passed on to the browse shortcut.")
+          .Method(55, "PopulateDoubleRange", &C::PopulateDoubleRange,
+                  {{"sRangeName"}, {"dValue"}, {"lIndex"}}, "Writes a number.")
           .Get(56, "LeaveFormulaOnPopulate", &C::get_LeaveFormulaOnPopulate,
                "A cell with a formula keeps it.")
           .Let(56, "LeaveFormulaOnPopulate", &C::let_LeaveFormulaOnPopulate,
@@ -121,16 +152,28 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                "Writes go only into blank cells.")
           .Let(57, "LeaveBlankOnPopulate", &C::let_LeaveBlankOnPopulate,
                "Writes go only into blank cells.")
+          .Method(58, "GetValues", &C::GetValues, {{"lIndex"}, {"HeadDetailInd"}},
+                  "Reads a line of every range of a kind into the records.")
           .Get(59, "RangePrefix", &C::get_RangePrefix,
                "Stands ahead of every declared name in workbook names.")
           .Let(59, "RangePrefix", &C::let_RangePrefix,
                "Stands ahead of every declared name in workbook names.")
           .Method(60, "GetYNRange", &C::GetYNRange, {{"sRName"}, {"bVal"}, {"lIndex"}},
                   "Reads a yes or no.")
+          .Method(61, "PopulateYNRange", &C::PopulateYNRange,
+                  {{"sRangeName"}, {"bVal"}, {"lIndex"}}, "Writes a yes or no.")
+          .Method(62, "PutValues", &C::PutValues, {{"lIndex"}, {"HeadDetailInd"}},
+                  "Writes a line of every range of a kind from the records.")
           .Get(63, "DefaultTag", &C::get_DefaultTag,
                "Stamped into Tag of each range that Add declares.")
           .Let(63, "DefaultTag", &C::let_DefaultTag,
                "Stamped into Tag of each range that Add declares.")
+          .Method(64, "ClearRangesForTag", &C::ClearRangesForTag,
+                  {{"sTag"},
+                   {"colExcludeGroups", Object()},
+                   {"colExcludeRanges", Object()},
+                   {"bDontCheckFormula", false}},
+                  "Clears the ranges with a tag but for those excluded.")
           .Method(65, "RenameNamesForNewSheet", &C::RenameNamesForNewSheet, {{"NewName"}},
                   "Renames the workbook names of a sheet about to be renamed.")
           .Get(66, "DoNotCheckIsFormula", &C::get_DoNotCheckIsFormula,

@@ -8,6 +8,7 @@ namespace {
 
 using automation::Argument;
 using ::testing::ElementsAre;
+using ::testing::ElementsAreArray;
 using ::testing::MatchesRegex;
 
 class Declaration : public SheetFixture {};
@@ -239,19 +240,70 @@ TEST_F(Declaration, MembersStandInTheOrderOfTheirSlots) {
     const std::string& name = entry.name.Name();
     if (slots.empty() || slots.back() != name) slots.push_back(name);
   }
-  EXPECT_THAT(
-      slots,
-      ElementsAre("StripSpacesOnDownload", "AddNumberValidation", "InvalidRow", "InvalidRangeType",
-                  "InvalidRange", "BlankRangeIsThere", "SaveTheSpreadSheet", "CallerObject",
-                  "UseCallerObject", "GroupFound", "UsingSheetRangeNames", "FullRangeName",
-                  "SheetRangeNames", "GroupHeadings", "ActSheet", "InRange", "InAnyRange",
-                  "BrowseColumn", "AddInterface", "ClearList", "SetIfRangesExist", "GetRange",
-                  "GetValRange", "GetIntRange", "GetStrRangeBlk", "GetStrRange", "GetDateRange",
-                  "ChangeSESConnection", "RangeExists", "CorrectRangeNames", "CellOffsetInRange",
-                  "Add", "AddCls", "Item", "Count", "Remove", "NewEnum", "ValidateDecimalPlaces",
-                  "UseNewBrowseShortcutName", "LeaveFormulaOnPopulate", "LeaveBlankOnPopulate",
-                  "RangePrefix", "GetYNRange", "DefaultTag", "RenameNamesForNewSheet",
-                  "DoNotCheckIsFormula"));
+  EXPECT_THAT(slots, ElementsAreArray({"StripSpacesOnDownload",
+                                       "AddNumberValidation",
+                                       "InvalidRow",
+                                       "InvalidRangeType",
+                                       "InvalidRange",
+                                       "BlankRangeIsThere",
+                                       "SaveTheSpreadSheet",
+                                       "CallerObject",
+                                       "UseCallerObject",
+                                       "GroupFound",
+                                       "UsingSheetRangeNames",
+                                       "FullRangeName",
+                                       "SheetRangeNames",
+                                       "GroupHeadings",
+                                       "ActSheet",
+                                       "ValidateRanges",
+                                       "InRange",
+                                       "InAnyRange",
+                                       "BrowseColumn",
+                                       "AddInterface",
+                                       "ClearList",
+                                       "SetIfRangesExist",
+                                       "AddUserRangesToList",
+                                       "GetRange",
+                                       "GetValRange",
+                                       "GetIntRange",
+                                       "GetStrRangeBlk",
+                                       "GetStrRange",
+                                       "GetDateRange",
+                                       "PopulateRange",
+                                       "PopulateRangeRs",
+                                       "ClearRange",
+                                       "ChangeSESConnection",
+                                       "RangeExists",
+                                       "GetSageUserName",
+                                       "GetWindowsUserName",
+                                       "CorrectRangeNames",
+                                       "CellOffsetInRange",
+                                       "ClearAllRanges",
+                                       "ClearDetailRanges",
+                                       "IsFormula",
+                                       "Add",
+                                       "AddCls",
+                                       "Item",
+                                       "Count",
+                                       "Remove",
+                                       "NewEnum",
+                                       "ValidateDecimalPlaces",
+                                       "PopulateDateRange",
+                                       "CheckRangeSize",
+                                       "CheckGroupSizes",
+                                       "UseNewBrowseShortcutName",
+                                       "PopulateDoubleRange",
+                                       "LeaveFormulaOnPopulate",
+                                       "LeaveBlankOnPopulate",
+                                       "GetValues",
+                                       "RangePrefix",
+                                       "GetYNRange",
+                                       "PopulateYNRange",
+                                       "PutValues",
+                                       "DefaultTag",
+                                       "ClearRangesForTag",
+                                       "RenameNamesForNewSheet",
+                                       "DoNotCheckIsFormula"}));
 }
 
 TEST_F(Declaration, EveryPublicMemberHasAHelpString) {

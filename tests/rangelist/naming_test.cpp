@@ -58,6 +58,7 @@ TEST(DllPath, IsTheFolderOfTheLibrarysFileWithoutASeparatorBehind) {
    public:
     explicit FixedSystem(std::string file) : file_(std::move(file)) {}
     std::string LibraryFile() const override { return file_; }
+    std::optional<std::string> LoggedOnUser() const override { return std::nullopt; }
     automation::Locale CurrentLocale() const override { return {}; }
 
    private:

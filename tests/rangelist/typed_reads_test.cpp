@@ -471,8 +471,8 @@ TEST_F(TypedReads, InvalidRangeTypeAndRowWithoutAFailedReadRaise) {
 
 TEST_F(TypedReads, EachReadMakesTheseHostCallsAndNoOthers) {
   Place(rdtString, DateOf(2024, 1, 31));
-  const auto getRange = std::vector<std::string>{"Worksheet.Parent get", "Workbook.Names get \"qty\"",
-                                                 "Name.RefersToRange get"};
+  const auto getRange = std::vector<std::string>{
+      "Worksheet.Parent get", "Workbook.Names get \"qty\"", "Name.RefersToRange get"};
   const auto with = [&](const std::vector<std::string>& more) {
     auto calls = getRange;
     calls.insert(calls.end(), more.begin(), more.end());
@@ -498,7 +498,9 @@ TEST_F(TypedReads, AReadByNamePassesTheValueOutToTheCallersVariable) {
   list->let_ValidateDecimalPlaces(true);
   list->Item("qty")->let_DecimalPlaces(0);
   value = 0;
-  ErrorOf([&] { Object(list).Call(Member("GetValRange"), {"qty", Argument::Reference(value), 1}); });
+  ErrorOf([&] {
+    Object(list).Call(Member("GetValRange"), {"qty", Argument::Reference(value), 1});
+  });
   EXPECT_EQ(value, Variant(12.5));
 }
 
