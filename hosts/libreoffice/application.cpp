@@ -89,8 +89,7 @@ Variant Application::GetSelection() const {
   Reference<css::sheet::XSheetCellRange> cells(selected, css::uno::UNO_QUERY);
   if (!cells.is()) return Object();
   const auto address = As<css::sheet::XCellRangeAddressable>(cells)->getRangeAddress();
-  return std::make_shared<Range>(Office(), book, book->SheetAt(address.Sheet + 1),
-                                 AreaOf(address));
+  return std::make_shared<Range>(Office(), book, book->SheetAt(address.Sheet + 1), AreaOf(address));
 }
 
 Variant Application::GetInternational(const Variant& index) const {

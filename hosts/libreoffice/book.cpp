@@ -99,8 +99,7 @@ const Reference<css::frame::XController>& Book::Controller() {
 
 double Book::FirstDay() {
   if (!firstDay_) {
-    const auto day =
-        Property<css::util::Date>(As<css::beans::XPropertySet>(model_), "NullDate");
+    const auto day = Property<css::util::Date>(As<css::beans::XPropertySet>(model_), "NullDate");
     firstDay_ = automation::DateOf(day.Year, day.Month, day.Day).serial;
   }
   return *firstDay_;

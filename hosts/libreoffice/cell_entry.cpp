@@ -62,8 +62,7 @@ CellEntry PlainEntry(const Variant& value, double firstDay) {
     case Kind::String:
       return TextEntry(*value.TryGet<std::string>());
     case Kind::Error:
-      return ConstantEntry("=" +
-                           workbook::CellErrorText(*value.TryGet<automation::ErrorValue>()));
+      return ConstantEntry("=" + workbook::CellErrorText(*value.TryGet<automation::ErrorValue>()));
     case Kind::Object:
     case Kind::Array:
       break;

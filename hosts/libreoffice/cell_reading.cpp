@@ -50,8 +50,7 @@ Variant NumberAs(FormatKind kind, double number, Book& book) {
 
 /// A formula whose cell has no format of its own shows a date or a boolean as what it is.
 FormatKind KindOfResult(const Cell& cell, Book& book) {
-  return book.NumberFormats().KindOfShown(
-      ToUtf8(As<css::text::XTextRange>(cell)->getString()));
+  return book.NumberFormats().KindOfShown(ToUtf8(As<css::text::XTextRange>(cell)->getString()));
 }
 
 /// A text as the office gives it for entering again: an apostrophe stands in front of what would
@@ -148,8 +147,7 @@ Variant ReadBlock(Sheet& sheet, const Area& area) {
     for (std::int32_t column = 1; column <= area.columns; ++column) {
       Variant& value = values.At(row, column);
       const bool isError = !content.Result(row, column).hasValue();
-      const Cell cell =
-          isError ? sheet.Cell(area.row + row - 1, area.column + column - 1) : Cell();
+      const Cell cell = isError ? sheet.Cell(area.row + row - 1, area.column + column - 1) : Cell();
       value = ValueBesideNumbers(content, row, column, cell);
       hasNumbers = hasNumbers || value.TryGet<double>() != nullptr;
     }
@@ -169,8 +167,8 @@ std::string FormulaText(Sheet& sheet, std::int32_t row, std::int32_t column, con
   const std::string native = ToUtf8(cell->getFormula());
   if (const auto constant = ConstantText(native)) return *constant;
   const css::table::CellAddress place(sheet.Index(), column - 1, row - 1);
-  const std::string text = sheet.OfBook().FormulaTexts().Write(
-      As<css::sheet::XFormulaTokens>(cell)->getTokens(), place);
+  const std::string text =
+      sheet.OfBook().FormulaTexts().Write(As<css::sheet::XFormulaTokens>(cell)->getTokens(), place);
   return text.empty() ? native : "=" + text;
 }
 
@@ -211,14 +209,16 @@ Variant ReadBlockFormulas(Sheet& sheet, const Area& area) {
   return texts;
 }
 
-/// Formulas of a block in which every cell holds one, without the constants among them.
-std::int64_t CountFormulas(Sheet& sheet, const css::table::CellRangeAddress& part) {
-  const auto block = sheet.Cells()->getCellRangeByPosition(part.StartColumn, part.StartRow,
-                                                           part.EndColumn, part.EndRow);
-  const TextArray entries = As<css::sheet::XCellRangeFormula>(block)->getFormulaArray();
+/// The formulas of a part of the sheet, without the constants among them.
+std::int64_t CountFormulas(Sheet& sheet, const Area& part) {
+  const BlockContent content(sheet.Block(part));
   std::int64_t count = 0;
-  for (const auto& row : Elements(entries)) {
-    for (const OUString& entry : Elements(row)) count += ConstantText(ToUtf8(entry)) ? 0 : 1;
+  for (std::int32_t row = 1; row <= part.rows; ++row) {
+    for (std::int32_t column = 1; column <= part.columns; ++column) {
+      const bool isFormula = content.IsFormula(row, column) &&
+                             !ConstantText(ToUtf8(content.Entry(row, column))).has_value();
+      count += isFormula ? 1 : 0;
+    }
   }
   return count;
 }
@@ -228,7 +228,8 @@ std::int64_t CountFormulas(Sheet& sheet, const css::table::CellRangeAddress& par
 void RequireMemoryFor(const Area& area) {
   if (area.Count() > kLargestBlock) {
     throw automation::Error(static_cast<std::int32_t>(automation::ErrorNumber::OutOfMemory),
-                            kErrorSource, AddressOf(area) + " has too many cells to be held at once");
+                            kErrorSource,
+                            AddressOf(area) + " has too many cells to be held at once");
   }
 }
 
@@ -243,6 +244,7 @@ Variant ReadFormula(Sheet& sheet, const Area& area) {
 }
 
 Variant ReadHasFormula(Sheet& sheet, const Area& area) {
+  RequireMemoryFor(area);
   if (area.IsOneCell()) {
     const Cell cell = sheet.Cell(area.row, area.column);
     return cell->getType() == CellContentType_FORMULA &&
@@ -252,7 +254,11 @@ Variant ReadHasFormula(Sheet& sheet, const Area& area) {
                          ->queryContentCells(static_cast<sal_Int16>(css::sheet::CellFlags::FORMULA))
                          ->getRangeAddresses();
   std::int64_t formulas = 0;
-  for (const auto& part : Elements(found)) formulas += CountFormulas(sheet, part);
+  for (const auto& part : Elements(found)) {
+    // Asked about columns beyond those in use, the office answers with cells of other columns.
+    const auto inside = workbook::CommonArea(area, AreaOf(part));
+    if (inside) formulas += CountFormulas(sheet, *inside);
+  }
   if (formulas == 0) return false;
   return formulas == area.Count() ? Variant(true) : Variant(automation::Null());
 }

@@ -38,7 +38,8 @@ bool IsLocked(const Reference<css::uno::XInterface>& cells) {
 }
 
 bool IsAnyLocked(const Reference<css::table::XCellRange>& block) {
-  const auto state = As<css::beans::XPropertyState>(block)->getPropertyState(ToUno("CellProtection"));
+  const auto state =
+      As<css::beans::XPropertyState>(block)->getPropertyState(ToUno("CellProtection"));
   if (state != css::beans::PropertyState_AMBIGUOUS_VALUE) return IsLocked(block);
   const auto groups =
       As<css::sheet::XUniqueCellFormatRangesSupplier>(block)->getUniqueCellFormatRanges();
@@ -160,8 +161,7 @@ class Writing {
 
   void PutFormula(const Cell& cell, std::int32_t row, std::int32_t column,
                   const std::string& formula) {
-    const Tokens tokens =
-        book_.FormulaTexts().Read(formula, {sheet_.Index(), column - 1, row - 1});
+    const Tokens tokens = book_.FormulaTexts().Read(formula, {sheet_.Index(), column - 1, row - 1});
     const OUString before = cell->getFormula();
     As<css::sheet::XFormulaTokens>(cell)->setTokens(tokens);
     if (!IsSyntaxError(cell->getError())) return;

@@ -17,14 +17,15 @@ using std::chrono::milliseconds;
 /// This process's own component context, which knows how to open pipes. It is made once and kept:
 /// UNO's tables of types and bridges live as long as the process.
 const Reference<css::uno::XComponentContext>& LocalContext() {
-  static const auto* const context = new Reference<css::uno::XComponentContext>(
-      cppu::defaultBootstrap_InitialComponentContext());
+  static const auto* const context =
+      new Reference<css::uno::XComponentContext>(cppu::defaultBootstrap_InitialComponentContext());
   return *context;
 }
 
 Reference<css::uno::XComponentContext> TryConnect(const OfficeProcess& process) {
   const auto resolver = css::bridge::UnoUrlResolver::create(LocalContext());
-  const std::string url = "uno:pipe,name=" + process.PipeName() + ";urp;StarOffice.ComponentContext";
+  const std::string url =
+      "uno:pipe,name=" + process.PipeName() + ";urp;StarOffice.ComponentContext";
   try {
     return As<css::uno::XComponentContext>(resolver->resolve(ToUno(url)));
   } catch (const css::connection::NoConnectException&) {

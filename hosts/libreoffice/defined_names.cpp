@@ -124,9 +124,7 @@ std::optional<Reached> DefinedName::Resolve() {
   return Reached{book_->SheetAt(address.Sheet + 1), AreaOf(address)};
 }
 
-void DefinedName::PutContent(const std::string& content) {
-  Required()->setContent(ToUno(content));
-}
+void DefinedName::PutContent(const std::string& content) { Required()->setContent(ToUno(content)); }
 
 void DefinedName::Rename(const std::string& text) {
   RequireGoodName(text);

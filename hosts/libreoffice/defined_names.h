@@ -58,8 +58,9 @@ class DefinedName {
 /// text is looked for among that sheet's names only.
 std::optional<DefinedName> FindName(Book& book, const SheetPointer& scope, const std::string& text);
 
-/// All names of a sheet, or with none of all sheets and of each, ordered by their full texts without
-/// regard to case. Names that the office keeps for itself (print areas, filters) aren't among them.
+/// All names of a sheet, or with none of all sheets and of each, ordered by their full texts
+/// without regard to case. Names that the office keeps for itself (print areas, filters) aren't
+/// among them.
 std::vector<DefinedName> AllNames(Book& book, const SheetPointer& scope);
 
 /// Creates a name or gives it another content. `given` may have a sheet in front and one blank

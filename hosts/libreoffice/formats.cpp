@@ -108,8 +108,7 @@ std::int32_t Formats::KeyOf(const std::string& text) {
   if (text.empty() || automation::EqualText(text, kGeneral)) return 0;
   if (const auto known = keys_.find(text); known != keys_.end()) return known->second;
   try {
-    const std::int32_t key =
-        All()->addNewConverted(ToUno(text), English(), css::lang::Locale());
+    const std::int32_t key = All()->addNewConverted(ToUno(text), English(), css::lang::Locale());
     keys_.emplace(text, key);
     return key;
   } catch (const css::util::MalformedNumberFormatException&) {

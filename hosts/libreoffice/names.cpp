@@ -72,8 +72,7 @@ void Names::RequireAlive() const {
 
 Variant Names::GetItem(const Variant& index) const {
   if (const auto* text = index.TryGet<std::string>()) {
-    auto name =
-        FindName(*book_, sheet_, std::string(workbook::WithoutTrailingBlank(*text)));
+    auto name = FindName(*book_, sheet_, std::string(workbook::WithoutTrailingBlank(*text)));
     if (!name || (sheet_ && name->Scope() != sheet_)) {
       Fail("Workbook \"" + book_->Name() + "\" has no name \"" + *text + "\"");
     }

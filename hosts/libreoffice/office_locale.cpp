@@ -28,7 +28,8 @@ css::lang::Locale ChosenLocale(const Reference<css::uno::XComponentContext>& con
   return FromTag(tag.empty() || tag == "*" ? "en-US" : tag);
 }
 
-/// A typed date such as "D.M.Y" shows the order and the separator that the locale understands first.
+/// A typed date such as "D.M.Y" shows the order and the separator that the locale understands
+/// first.
 void ReadDatePattern(const std::string& pattern, automation::Locale& locale) {
   if (pattern.empty()) return;
   switch (pattern.front()) {
@@ -60,8 +61,8 @@ void ReadDatePattern(const std::string& pattern, automation::Locale& locale) {
 }
 
 template <std::size_t Count>
-void CopyNames(const Sequence<css::i18n::CalendarItem2>& items, std::array<std::string, Count>& full,
-               std::array<std::string, Count>& abbreviated) {
+void CopyNames(const Sequence<css::i18n::CalendarItem2>& items,
+               std::array<std::string, Count>& full, std::array<std::string, Count>& abbreviated) {
   if (items.getLength() != static_cast<sal_Int32>(Count)) return;
   for (std::size_t i = 0; i < Count; ++i) {
     full.at(i) = ToUtf8(Elements(items)[i].FullName);

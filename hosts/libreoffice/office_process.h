@@ -62,8 +62,8 @@ class OfficeProcess {
   pid_t supervisor_ = 0;  // 0 once it has been waited for
 };
 
-/// The folder of the installed office's programs. Raises 1004, saying what to install, when there is
-/// none.
+/// The folder of the installed office's programs. Raises 1004, saying what to install, when there
+/// is none.
 std::filesystem::path FindProgramFolder();
 
 }  // namespace rangewerks::hosts::libreoffice

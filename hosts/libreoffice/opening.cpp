@@ -61,8 +61,9 @@ void RequireSpreadsheetSignature(const std::string& path) {
   const std::string_view found(start.data(), static_cast<std::size_t>(file.gcount()));
   if (found.empty()) Fail(path + " is empty.");
   if (!found.starts_with(kArchive) && found != kCompound) {
-    Fail(path + " isn't a spreadsheet file, whatever its name says: it begins like neither an "
-                "xlsx, an ods nor an xls file.");
+    Fail(path +
+         " isn't a spreadsheet file, whatever its name says: it begins like neither an "
+         "xlsx, an ods nor an xls file.");
   }
 }
 
@@ -120,13 +121,13 @@ Reference<css::lang::XComponent> LoadFile(Session& session, const std::string& p
   Reference<css::lang::XComponent> component;
   std::string reason;
   try {
-    component = Load(
-        session, UrlOf(path),
-        {Option("Hidden", Any(true)), Option("ReadOnly", Any(options.readOnly)),
-         Option("MacroExecutionMode", Any(css::document::MacroExecMode::NEVER_EXECUTE)),
-         Option("UpdateDocMode", Any(css::document::UpdateDocMode::NO_UPDATE)),
-         Option("InteractionHandler",
-                Any(Reference<css::task::XInteractionHandler>(refuser.get())))});
+    component =
+        Load(session, UrlOf(path),
+             {Option("Hidden", Any(true)), Option("ReadOnly", Any(options.readOnly)),
+              Option("MacroExecutionMode", Any(css::document::MacroExecMode::NEVER_EXECUTE)),
+              Option("UpdateDocMode", Any(css::document::UpdateDocMode::NO_UPDATE)),
+              Option("InteractionHandler",
+                     Any(Reference<css::task::XInteractionHandler>(refuser.get())))});
   } catch (const css::lang::DisposedException&) {
     throw;
   } catch (const css::uno::Exception& failure) {

@@ -83,11 +83,12 @@ Variant Range::Carry(const Invocation& call) {
 std::shared_ptr<Range> Range::Placed(std::int64_t rowOffset, std::int64_t columnOffset,
                                      std::int64_t rows, std::int64_t columns,
                                      Elements elements) const {
-  const auto area = workbook::AreaOnSheet(area_.row + rowOffset, area_.column + columnOffset, rows, columns);
+  const auto area =
+      workbook::AreaOnSheet(area_.row + rowOffset, area_.column + columnOffset, rows, columns);
   if (!area) {
     Fail(std::to_string(rows) + " by " + std::to_string(columns) + " cells, " +
-           std::to_string(rowOffset) + " rows and " + std::to_string(columnOffset) +
-           " columns from " + Place() + ", aren't on the sheet");
+         std::to_string(rowOffset) + " rows and " + std::to_string(columnOffset) +
+         " columns from " + Place() + ", aren't on the sheet");
   }
   return std::make_shared<Range>(Office(), book_, sheet_, *area, elements);
 }

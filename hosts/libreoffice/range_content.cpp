@@ -84,8 +84,8 @@ Variant Range::GetParent() const { return Worksheet::Of(Office(), book_, sheet_)
 Variant Range::GetApplication() const { return Application::Of(Office()); }
 
 void Range::Select() {
-  const bool isInFront =
-      Office()->HasActiveBook() && Office()->ActiveBook() == book_ && book_->ActiveSheet() == sheet_;
+  const bool isInFront = Office()->HasActiveBook() && Office()->ActiveBook() == book_ &&
+                         book_->ActiveSheet() == sheet_;
   if (!isInFront) Fail(Place() + " can't be selected: its sheet isn't the active one");
   As<css::view::XSelectionSupplier>(book_->Controller())->select(Any(sheet_->Block(area_)));
 }

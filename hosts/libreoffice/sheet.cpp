@@ -38,8 +38,8 @@ std::int16_t Sheet::Index() const {
 
 const Reference<css::sheet::XNamedRanges>& Sheet::Names() {
   if (!names_.is()) {
-    names_ = Property<Reference<css::sheet::XNamedRanges>>(
-        As<css::beans::XPropertySet>(cells_), "NamedRanges");
+    names_ = Property<Reference<css::sheet::XNamedRanges>>(As<css::beans::XPropertySet>(cells_),
+                                                           "NamedRanges");
   }
   return names_;
 }

@@ -12,3 +12,15 @@ OUString ToUno(std::string_view text) {
 }
 
 }  // namespace rangewerks::hosts::libreoffice
+
+#ifdef __SANITIZE_ADDRESS__
+/// The headers of the office's interfaces keep one description of each type for the life of the
+/// process, and UNO's tables hang on these; the leak detector is told here, so that every program
+/// with this host has the same exception and no other.
+extern "C" const char* __lsan_default_suppressions();
+extern "C" const char* __lsan_default_suppressions() {
+  return "leak:com::sun::star::uno::Type::operator new\n"
+         "leak:libuno_cppu.so\n"
+         "leak:libuno_sal.so\n";
+}
+#endif

@@ -41,8 +41,8 @@ template <class T>
 T Extract(const Any& value) {
   T result{};
   if (!(value >>= result)) {
-    throw css::uno::RuntimeException(ToUno("a value of the type " +
-                                           ToUtf8(value.getValueTypeName()) + " wasn't expected"));
+    throw css::uno::RuntimeException(
+        ToUno("a value of the type " + ToUtf8(value.getValueTypeName()) + " wasn't expected"));
   }
   return result;
 }
