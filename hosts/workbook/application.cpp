@@ -14,7 +14,7 @@ namespace {
 const automation::Member kType{"Application"};
 
 std::shared_ptr<Range> RangeArgument(const Variant& value) {
-  const auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
+  auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
   if (!range) Refuse("Intersect takes ranges, not a value of the type " + value.TypeName());
   return range;
 }

@@ -98,14 +98,14 @@ bool IsDateFormat(std::string_view format) {
 }
 
 Variant ShownValue(const Cell& cell) {
-  const double* number = cell.value.TryGet<double>();
+  const auto* number = cell.value.TryGet<double>();
   if (number == nullptr || cell.format.empty() || !IsDateFormat(cell.format)) return cell.value;
   return *number < 0 ? cell.value : Variant(Date{*number});
 }
 
 std::string EntryText(const Cell& cell) {
   if (cell.IsFormula()) return cell.formula;
-  if (const bool* boolean = cell.value.TryGet<bool>()) return *boolean ? "TRUE" : "FALSE";
+  if (const auto* boolean = cell.value.TryGet<bool>()) return *boolean ? "TRUE" : "FALSE";
   if (const auto* error = cell.value.TryGet<ErrorValue>()) return CellErrorText(*error);
   return ToString(cell.value, Locale());
 }

@@ -46,7 +46,7 @@ NamePointer DefinedNames::FindOf(const Sheet& sheet, std::string_view name) cons
 }
 
 NamePointer DefinedNames::Define(std::string name, SheetPointer scope, NameContent content) {
-  const auto existing = scope ? FindOf(*scope, name) : Lookup(name);
+  auto existing = scope ? FindOf(*scope, name) : Lookup(name);
   if (existing) {
     existing->content = std::move(content);
     return existing;

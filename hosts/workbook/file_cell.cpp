@@ -50,7 +50,7 @@ automation::Date ReadDate(const JsonEntry& entry) {
       return {ReadDay(entry, text).serial + (hour * 3600 + minute * 60 + second) / kSecondsOfDay};
     }
   }
-  entry.FailExpecting("a date such as \"2024-01-31\" or \"2024-01-31T13:45:00\"");
+  entry.FailExpecting(R"(a date such as "2024-01-31" or "2024-01-31T13:45:00")");
 }
 
 bool IsExact(const JsonEntry::Json& number) {
@@ -105,7 +105,7 @@ void RequireOneKind(const JsonEntry& entry) {
   int kinds = 0;
   for (const char* key : {"value", "date", "error", "formula"}) kinds += entry.Has(key) ? 1 : 0;
   if (kinds != 1) {
-    entry.Fail("expected exactly one of the keys \"value\", \"date\", \"error\", \"formula\"");
+    entry.Fail(R"(expected exactly one of the keys "value", "date", "error", "formula")");
   }
 }
 
@@ -125,7 +125,7 @@ Cell ReadFileCell(const JsonEntry& entry) {
     entry.Do([&] { PutShown(cell, shown); });
     return cell;
   }
-  if (entry.Has("shown")) entry.Fail("\"shown\" is for a cell with a \"formula\"");
+  if (entry.Has("shown")) entry.Fail(R"("shown" is for a cell with a "formula")");
   const Variant value = ReadValue(entry);
   entry.Do([&] { Put(cell, value); });
   return cell;

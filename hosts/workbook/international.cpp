@@ -14,11 +14,6 @@ using automation::DateOrder;
 using automation::Locale;
 using automation::Variant;
 
-constexpr std::int32_t kThousandsSeparator = 4;
-constexpr std::int32_t kDateSeparator = 17;
-constexpr std::int32_t kTimeSeparator = 18;
-constexpr std::int32_t kCurrencySymbol = 25;
-
 /// In the order of DateOrder.
 constexpr std::array<const char*, 3> kShortDates{"m/d/yyyy", "dd/mm/yyyy", "yyyy/mm/dd"};
 

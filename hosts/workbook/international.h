@@ -10,6 +10,12 @@
 
 namespace rangewerks::hosts::workbook {
 
+/// Indexes of Application.International that nobody but this host asks for.
+inline constexpr std::int32_t kThousandsSeparator = 4;
+inline constexpr std::int32_t kDateSeparator = 17;
+inline constexpr std::int32_t kTimeSeparator = 18;
+inline constexpr std::int32_t kCurrencySymbol = 25;
+
 /// What Application.International tells. Follows Locale::Current() until something is set.
 class International {
  public:

@@ -107,12 +107,15 @@ std::string JsonEntry::Text() const {
 
 void JsonEntry::RequireKeys(std::initializer_list<const char*> keys) const {
   std::string expected;
-  for (const char* key : keys)
-    expected += (expected.empty() ? "\"" : ", \"") + std::string(key) + "\"";
+  for (const char* key : keys) {
+    if (!expected.empty()) expected += ", ";
+    expected.append("\"").append(key).append("\"");
+  }
   for (const auto& [key, entry] : Members()) {
     const auto known = std::find_if(keys.begin(), keys.end(),
                                     [&name = key](const char* each) { return name == each; });
-    if (known == keys.end()) Fail("found the key \"" + key + "\", expected only " + expected);
+    if (known != keys.end()) continue;
+    Fail(std::string("found the key \"").append(key).append("\", expected only ").append(expected));
   }
 }
 

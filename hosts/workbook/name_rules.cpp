@@ -46,7 +46,7 @@ std::string FaultOfName(std::string_view name) {
   if (automation::Length(name) > kLongestName) return "it has more than 255 characters";
   const char first = name.front();
   if (!IsLetter(first) && first != '_' && first != '\\') {
-    return "it doesn't begin with a letter, \"_\" or \"\\\"";
+    return R"(it doesn't begin with a letter, "_" or "\")";
   }
   for (const char c : name) {
     if (IsLetter(c) || IsDigit(c) || c == '_' || c == '.' || c == '\\' || c == '?') continue;

@@ -9,7 +9,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-using automation::Argument;
 using automation::CallKind;
 using automation::Error;
 using automation::ErrorNumber;

@@ -14,7 +14,6 @@ namespace {
 
 using automation::Date;
 using automation::Locale;
-using automation::Variant;
 
 constexpr std::size_t kGroup = 3;
 constexpr double kPercent = 100;

@@ -1,5 +1,6 @@
 #include "hosts/workbook/workbook_file.h"
 
+#include <array>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -37,16 +38,19 @@ std::int32_t DateOrderOf(const JsonEntry& entry) {
   if (order == "month_first") return 0;
   if (order == "day_first") return 1;
   if (order == "year_first") return 2;
-  entry.FailExpecting("\"month_first\", \"day_first\" or \"year_first\"");
+  entry.FailExpecting(R"("month_first", "day_first" or "year_first")");
 }
 
 struct SeparatorKey {
   const char* key;
   std::int32_t index;
 };
-constexpr SeparatorKey kSeparators[] = {{"decimal_separator", 3}, {"thousands_separator", 4},
-                                        {"list_separator", 5},    {"date_separator", 17},
-                                        {"time_separator", 18},   {"currency_symbol", 25}};
+constexpr std::array<SeparatorKey, 6> kSeparators{{{"decimal_separator", excel::xlDecimalSeparator},
+                                                   {"thousands_separator", kThousandsSeparator},
+                                                   {"list_separator", excel::xlListSeparator},
+                                                   {"date_separator", kDateSeparator},
+                                                   {"time_separator", kTimeSeparator},
+                                                   {"currency_symbol", kCurrencySymbol}}};
 
 InternationalFacts ReadInternational(const JsonEntry& entry) {
   entry.RequireKeys({"date_order", "decimal_separator", "thousands_separator", "list_separator",
@@ -77,7 +81,7 @@ void PutCell(Sheet& sheet, Position position, const JsonEntry& entry) {
 Position PlaceOf(const std::string& address, const JsonEntry& entry) {
   const auto area = ParseAddress(address);
   if (!area || !area->IsOneCell()) {
-    entry.Fail("found \"" + address + "\", expected the address of one cell, such as \"B2\"");
+    entry.Fail("found \"" + address + R"(", expected the address of one cell, such as "B2")");
   }
   return {area->row, area->column};
 }
@@ -118,7 +122,7 @@ void ReadSheet(Book& book, const JsonEntry& entry) {
 void ReadNames(Book& book, const JsonEntry& entry) {
   for (const auto& [name, content] : entry.Members()) {
     if (!content.Text().starts_with('=')) {
-      content.FailExpecting("a text that begins with \"=\", such as \"=Sheet1!$A$1:$A$3\"");
+      content.FailExpecting(R"(a text that begins with "=", such as "=Sheet1!$A$1:$A$3")");
     }
     const std::string text = content.Text();
     content.Do(
