@@ -24,7 +24,9 @@ class InMemory final : public Spreadsheet {
 #ifdef RANGEWERKS_LIBREOFFICE
 class LibreOffice final : public Spreadsheet {
  public:
-  automation::Object Open(const std::string& path) override { return office_.Open(path); }
+  automation::Object Open(const std::string& path) override {
+    return office_.Open(path, {.readOnly = true});
+  }
 
  private:
   hosts::libreoffice::Office office_;

@@ -23,7 +23,8 @@ class Spreadsheet {
  public:
   virtual ~Spreadsheet() = default;
 
-  /// Opens a file and makes it the active workbook. Raises an automation::Error that says what is
+  /// Opens a file for reading and makes it the active workbook: no lock is left on it, and one that
+  /// somebody else has open is opened all the same. Raises an automation::Error that says what is
   /// wrong with the file.
   virtual automation::Object Open(const std::string& path) = 0;
 };

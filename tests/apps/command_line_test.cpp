@@ -8,6 +8,7 @@
 #include <iterator>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 namespace rangewerks::apps {
 namespace {
@@ -56,6 +57,7 @@ class CommandLine : public ::testing::Test {
   void Write(const std::string& name, const std::string& text) const {
     std::ofstream(folder_ / name) << text;
   }
+  std::filesystem::path File(const std::string& name) const { return folder_ / name; }
   std::string Text(const std::string& name) const {
     std::ifstream file(folder_ / name);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -330,6 +332,16 @@ TEST_F(CommandLine, ReadsPlainNamesWithAPrefixInLibreOffice) {
   const auto read = nlohmann::json::parse(outcome.output);
   EXPECT_EQ(read["header"]["customer"]["value"], "MORTON01");
   EXPECT_EQ(read["ranges"]["remarks"]["exists"], false);
+}
+
+TEST_F(CommandLine, ReadsAWorkbookThatSomebodyElseHasOpen) {
+  const std::string orders = RANGEWERKS_EXAMPLES "/orders.ods";
+  std::filesystem::copy_file(orders, File("orders.ods"));
+  Write(".~lock.orders.ods#", ",somebody,elsewhere,21.11.2024 09:00,file:///elsewhere;");
+  const Outcome outcome =
+      Run("read orders.ods --interface " RANGEWERKS_EXAMPLES "/orders.interface.json");
+  EXPECT_EQ(outcome.status, 1) << outcome.messages;
+  EXPECT_EQ(Text(".~lock.orders.ods#"), ",somebody,elsewhere,21.11.2024 09:00,file:///elsewhere;");
 }
 
 TEST_F(CommandLine, RefusesAFileThatIsNoSpreadsheet) {
