@@ -16,7 +16,7 @@ constexpr std::size_t kLongestShown = 60;  // characters of a found value in a m
 std::string Shown(const Json& value) {
   if (value.is_object()) return "an object";
   if (value.is_array()) return "a list";
-  const std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+  std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
   if (automation::Length(text) <= kLongestShown) return text;
   return std::string(automation::Left(text, kLongestShown)) + "…";
 }

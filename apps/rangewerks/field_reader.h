@@ -6,6 +6,7 @@
 //   fields.RefuseOthers();
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <optional>
 #include <span>
@@ -42,14 +43,15 @@ class FieldReader {
   std::optional<bool> Boolean(std::string_view field);
   std::optional<std::int16_t> Integer(std::string_view field);
   template <class Value, std::size_t count>
-  std::optional<Value> OneOfWords(std::string_view field, const Word<Value> (&words)[count]);
+  std::optional<Value> OneOfWords(std::string_view field,
+                                  const std::array<Word<Value>, count>& words);
   /// The array in the field, or null when the object lacks it.
   const Json* List(std::string_view field);
 
   /// The same for a field that must be there; a text must also have more than blanks.
   std::string RequiredText(std::string_view field);
   template <class Value, std::size_t count>
-  Value RequiredWord(std::string_view field, const Word<Value> (&words)[count]);
+  Value RequiredWord(std::string_view field, const std::array<Word<Value>, count>& words);
   const Json& RequiredList(std::string_view field);
 
   /// Refuses a field that was never asked for, with the nearest of those that were.
@@ -77,7 +79,7 @@ class FieldReader {
 
 template <class Value, std::size_t count>
 std::optional<Value> FieldReader::OneOfWords(std::string_view field,
-                                             const Word<Value> (&words)[count]) {
+                                             const std::array<Word<Value>, count>& words) {
   const std::optional<std::string> found = Text(field);
   if (!found) return std::nullopt;
   std::vector<std::string_view> texts;
@@ -89,7 +91,8 @@ std::optional<Value> FieldReader::OneOfWords(std::string_view field,
 }
 
 template <class Value, std::size_t count>
-Value FieldReader::RequiredWord(std::string_view field, const Word<Value> (&words)[count]) {
+Value FieldReader::RequiredWord(std::string_view field,
+                                const std::array<Word<Value>, count>& words) {
   if (const auto value = OneOfWords(field, words)) return *value;
   std::vector<std::string_view> texts;
   for (const Word<Value>& word : words) texts.push_back(word.text);

@@ -1,5 +1,7 @@
 #include "apps/rangewerks/host_locale.h"
 
+#include <array>
+
 #include "automation/conversions.h"
 #include "errors/attempt.h"
 
@@ -23,12 +25,12 @@ void TakeText(const excel::Application& host, excel::InternationalIndex index, s
 }
 
 void TakeDateOrder(const excel::Application& host, Locale& locale) {
-  constexpr const char* kShortDates[] = {"m/d/yyyy", "d/m/yyyy", "yyyy/m/d"};
+  constexpr std::array<const char*, 3> kShortDates = {"m/d/yyyy", "d/m/yyyy", "yyyy/m/d"};
   Attempt([&] {
     const std::int32_t order = ToLong(host.get_International(excel::xlDateOrder), locale);
     if (order < 0 || order > 2 || static_cast<DateOrder>(order) == locale.dateOrder) return;
     locale.dateOrder = static_cast<DateOrder>(order);
-    locale.shortDate = kShortDates[order];
+    locale.shortDate = kShortDates.at(static_cast<std::size_t>(order));
   });
 }
 

@@ -1,5 +1,6 @@
 #include "apps/rangewerks/interface_file.h"
 
+#include <array>
 #include <unordered_map>
 
 #include "apps/rangewerks/failure.h"
@@ -14,16 +15,23 @@ namespace {
 using FirstUses =
     std::unordered_map<std::string, std::string, automation::FoldedHash, automation::FoldedEqual>;
 
-constexpr Word<eRangeHeadDetailInd> kIndicators[] = {
-    {"hdiHeader", hdiHeader}, {"hdiDetail", hdiDetail}, {"hdiHeaderDetail", hdiHeaderDetail},
-    {"hdiNone", hdiNone},     {"H", hdiHeader},         {"D", hdiDetail},
+constexpr auto kIndicators = std::to_array<Word<eRangeHeadDetailInd>>({
+    {"hdiHeader", hdiHeader},
+    {"hdiDetail", hdiDetail},
+    {"hdiHeaderDetail", hdiHeaderDetail},
+    {"hdiNone", hdiNone},
+    {"H", hdiHeader},
+    {"D", hdiDetail},
     {"H/D", hdiHeaderDetail},
-};
+});
 
-constexpr Word<eRangeDataType> kDataTypes[] = {
-    {"rdtString", rdtString},   {"rdtDouble", rdtDouble}, {"rdtDate", rdtDate},
-    {"rdtInteger", rdtInteger}, {"rdtYesNo", rdtYesNo},
-};
+constexpr auto kDataTypes = std::to_array<Word<eRangeDataType>>({
+    {"rdtString", rdtString},
+    {"rdtDouble", rdtDouble},
+    {"rdtDate", rdtDate},
+    {"rdtInteger", rdtInteger},
+    {"rdtYesNo", rdtYesNo},
+});
 
 /// Refuses what is a key of its list already; `firstUses` holds each key's place.
 void RequireNew(const FieldReader& fields, std::string_view field, const std::string& key,

@@ -6,8 +6,6 @@ namespace rangewerks::apps {
 
 namespace {
 
-using automation::Variant;
-
 constexpr std::size_t kWidestCell = 40;    // characters of a text that are shown among others
 constexpr std::size_t kWidestWords = 200;  // and of a message
 

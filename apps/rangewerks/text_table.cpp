@@ -49,7 +49,7 @@ std::vector<std::string> Laid(const Column& column, std::vector<std::string> cel
   if (headed) cells.insert(cells.begin(), column.heading);
   for (std::string& cell : cells) {
     const std::string blanks(width - Length(cell), ' ');
-    cell = column.align == Align::Left ? cell + blanks : blanks + cell;
+    cell.insert(column.align == Align::Left ? cell.size() : 0, blanks);
   }
   if (headed) cells.insert(cells.begin() + 1, Repeated("─", width));
   return cells;
