@@ -1,5 +1,6 @@
 #include "hosts/workbook/grid.h"
 
+#include <algorithm>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -10,6 +11,14 @@ const Cell& Grid::At(Position position) const {
   static const Cell untouched;
   const auto found = cells_.find(KeyOf(position));
   return found == cells_.end() ? untouched : found->second;
+}
+
+std::vector<std::pair<Position, const Cell*>> Grid::InOrder() const {
+  std::vector<std::pair<Position, const Cell*>> cells;
+  cells.reserve(cells_.size());
+  for (const auto& [key, cell] : cells_) cells.emplace_back(PositionOf(key), &cell);
+  std::ranges::sort(cells, {}, [](const auto& entry) { return KeyOf(entry.first); });
+  return cells;
 }
 
 void Grid::ClearContents(const Area& area) {

@@ -3,6 +3,8 @@
 
 #include <cstdint>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 #include "hosts/workbook/area.h"
 #include "hosts/workbook/cell.h"
@@ -42,6 +44,8 @@ class Grid {
       if (area.Contains(PositionOf(key))) visit(cell);
     }
   }
+  /// All cells that aren't untouched, row by row. The pointers hold until a cell changes.
+  std::vector<std::pair<Position, const Cell*>> InOrder() const;
   /// Removes values and formulas and leaves formats.
   void ClearContents(const Area& area);
   /// The area's number format; null when its cells differ.

@@ -6,6 +6,7 @@
 #include "hosts/workbook/range.h"
 #include "hosts/workbook/workbook.h"
 #include "hosts/workbook/workbook_file.h"
+#include "hosts/workbook/workbook_writing.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {
@@ -41,6 +42,10 @@ Object Host::AddWorkbook(const std::string& name, const std::vector<std::string>
 
 Object Host::Open(const std::string& path) {
   return Workbook::Of(session_, &ReadWorkbookFile(*session_, path));
+}
+
+void Host::SaveCopyAs(const Object& workbook, const std::string& path) const {
+  WriteWorkbookFile(*session_, *Own<Workbook>(workbook, "Workbook")->Data(), path);
 }
 
 void Host::SetShownValue(const Object& cell, const Variant& value) {

@@ -64,6 +64,9 @@ class Host {
   /// the file's name. Raises 53 when the file can't be read, and 1004 with the file, the place in
   /// it, what was found and what was expected; then no workbook is added.
   Object Open(const std::string& path);
+  /// Writes a workbook to a file that Open reads as the same workbook. Raises 1004 when it can't be
+  /// written; it may then be there in part.
+  void SaveCopyAs(const Object& workbook, const std::string& path) const;
 
   // --- what the object model can't set -----------------------------------------------------------
 

@@ -26,6 +26,9 @@ class International {
   /// also change the locale; the date order brings its short date along.
   void Set(std::int32_t index, const automation::Variant& value);
 
+  /// What was set, by index.
+  const std::unordered_map<std::int32_t, automation::Variant>& Given() const { return given_; }
+
   const automation::Locale& CurrentLocale() const;
 
  private:

@@ -1,6 +1,6 @@
 #include "hosts/workbook/workbook_file.h"
 
-#include <array>
+#include <algorithm>
 #include <filesystem>
 #include <fstream>
 #include <sstream>
@@ -9,6 +9,7 @@
 #include "automation/error.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/file_cell.h"
+#include "hosts/workbook/file_locale.h"
 #include "hosts/workbook/json_entry.h"
 #include "hosts/workbook/name.h"
 #include "platform/excel_constants.h"
@@ -35,28 +36,18 @@ std::string TextOfFile(const std::string& path) {
 
 std::int32_t DateOrderOf(const JsonEntry& entry) {
   const std::string order = entry.Text();
-  if (order == "month_first") return 0;
-  if (order == "day_first") return 1;
-  if (order == "year_first") return 2;
+  const auto word = std::ranges::find(kDateOrderWords, order);
+  if (word != kDateOrderWords.end()) {
+    return static_cast<std::int32_t>(word - kDateOrderWords.begin());
+  }
   entry.FailExpecting(R"("month_first", "day_first" or "year_first")");
 }
-
-struct SeparatorKey {
-  const char* key;
-  std::int32_t index;
-};
-constexpr std::array<SeparatorKey, 6> kSeparators{{{"decimal_separator", excel::xlDecimalSeparator},
-                                                   {"thousands_separator", kThousandsSeparator},
-                                                   {"list_separator", excel::xlListSeparator},
-                                                   {"date_separator", kDateSeparator},
-                                                   {"time_separator", kTimeSeparator},
-                                                   {"currency_symbol", kCurrencySymbol}}};
 
 InternationalFacts ReadInternational(const JsonEntry& entry) {
   entry.RequireKeys({"date_order", "decimal_separator", "thousands_separator", "list_separator",
                      "date_separator", "time_separator", "currency_symbol"});
   InternationalFacts facts;
-  for (const auto& [key, index] : kSeparators) {
+  for (const auto& [key, index] : kSeparatorKeys) {
     if (!entry.Has(key)) continue;
     const JsonEntry text = entry.At(key);
     if (text.Text().empty()) text.FailExpecting("a text of at least one character");
