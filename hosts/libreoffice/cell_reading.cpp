@@ -53,6 +53,13 @@ FormatKind KindOfResult(const Cell& cell, Book& book) {
   return book.NumberFormats().KindOfShown(ToUtf8(As<css::text::XTextRange>(cell)->getString()));
 }
 
+/// Whether a result of 0 or 1 is a boolean that was entered as such. In an xls file it comes
+/// without a sign of its being one, and shows as a number.
+bool IsBooleanConstant(double number, const OUString& nativeFormula) {
+  return (number == 0 || number == 1) &&
+         (nativeFormula == "=TRUE()" || nativeFormula == "=FALSE()");
+}
+
 /// A text as the office gives it for entering again: an apostrophe stands in front of what would
 /// otherwise be read as a number, and of another apostrophe.
 std::string TextOfEntry(const OUString& entry) {
@@ -64,9 +71,11 @@ Variant ReadResult(const Cell& cell, Book& book) {
   const DataArray data = As<css::sheet::XCellRangeData>(cell)->getDataArray();
   const Any& result = data[0][0];
   if (OUString text; result >>= text) return ToUtf8(text);
+  const auto number = Extract<double>(result);
+  if (IsBooleanConstant(number, cell->getFormula())) return number == 1;
   FormatKind kind = book.NumberFormats().KindOf(FormatKeyOf(cell));
   if (kind == FormatKind::General) kind = KindOfResult(cell, book);
-  return NumberAs(kind, Extract<double>(result), book);
+  return NumberAs(kind, number, book);
 }
 
 Variant ReadCell(const Cell& cell, Book& book) {
@@ -114,7 +123,9 @@ Variant ValueBesideNumbers(const BlockContent& content, std::int32_t row, std::i
     return isEmpty ? Variant() : Variant(ToUtf8(text));
   }
   if (!result.hasValue()) return ErrorOfCode(cell->getError());
-  return Extract<double>(result);
+  const auto number = Extract<double>(result);
+  if (IsBooleanConstant(number, content.Entry(row, column))) return number == 1;
+  return number;
 }
 
 /// Turns the numbers of one part of the block into what its format makes of them.

@@ -71,13 +71,13 @@ class Writing {
     formats_ = FormatsOf(sheet_, area_);
     entries_.resize(static_cast<std::size_t>(area_.Count()));
     for (const FormattedArea& part : formats_) ReadEntries(part, value, locale);
+    PutNewFormats();
     if (area_.IsOneCell()) {
       PutOne(area_.row, area_.column, entries_.front());
     } else {
       PutAll();
     }
-    KeepFormats();
-    PutNewFormats();
+    if (KeepFormats()) PutNewFormats();
   }
 
  private:
@@ -102,7 +102,10 @@ class Writing {
         Placed& placed = At(row, column);
         placed.entry = EntryOf(ElementFor(value, row - area_.row + 1, column - area_.column + 1),
                                kind, locale, firstDay);
-        if (kind == FormatKind::Boolean && placed.entry.kind == Kind::Number) {
+        const bool isNumber =
+            placed.entry.kind == Kind::Number || placed.entry.kind == Kind::Formula;
+        if (kind == FormatKind::Boolean && isNumber) {
+          // The office marks a cell that has shown a boolean; the next number would show as one.
           placed.newFormat = formats.KeyOf(placed.entry.format);
         } else if (part.key == 0 && !placed.entry.format.empty()) {
           placed.newFormat = formats.KeyOf(placed.entry.format);
@@ -171,19 +174,20 @@ class Writing {
   }
 
   /// The office gives a text that looks like a number the text format, which would make texts of
-  /// the numbers that are entered later.
-  void KeepFormats() {
+  /// the numbers that are entered later. True when formats were put back.
+  bool KeepFormats() {
     const bool mayHaveChanged =
         std::any_of(entries_.begin(), entries_.end(), [](const Placed& placed) {
           return placed.entry.kind == Kind::Text &&
                  placed.entry.text.find_first_of("0123456789") != std::string::npos;
         });
-    if (!mayHaveChanged) return;
+    if (!mayHaveChanged) return false;
     for (const FormattedArea& part : formats_) {
       const auto block = sheet_.Block(part.area);
       const auto now = FormatsOf(sheet_, part.area);
       if (now.size() != 1 || now.front().key != part.key) PutFormatKey(block, part.key);
     }
+    return true;
   }
 
   /// Column by column, cells below one another that take the same format at once.

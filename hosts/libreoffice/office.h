@@ -25,6 +25,8 @@ struct OpenOptions {
 /// other office is touched. It ends with this object, and also when the program dies. Objects that
 /// came from it may live on, but each call on them then raises 1004.
 ///
+/// It must have ended before main returns: a static Office would outlive what it needs.
+///
 /// All calls come from one thread. Everything raises 1004, with what failed, where, and if possible
 /// what to do.
 class Office {

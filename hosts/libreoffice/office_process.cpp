@@ -22,21 +22,31 @@ namespace {
 
 namespace fs = std::filesystem;
 
-// $1 is the folder of the office, the rest is its command line. Standard input is the lifeline.
+// $1 is the folder of the office, $2 the address of its profile, the rest its command line.
+// Standard input is the lifeline. The office may not have become the leader of its process group
+// yet when the lifeline closes; hence the loop. A killed office leaves two sockets behind: its
+// pipe, and one that it names after its profile.
 constexpr const char* kSupervisor = R"(
 folder=$1
-shift
+profile=$2
+shift 2
 exec 3<&0
 setsid "$@" 3<&- </dev/null &
 office=$!
-{ while read -r ignored <&3; do :; done; kill -s KILL -- -$office; } 2>/dev/null &
+{
+  while read -r ignored <&3; do :; done
+  until kill -s KILL -- -$office; do sleep 0.02; done
+} 2>/dev/null &
 watcher=$!
 exec 3<&-
 wait $office
 status=$?
 kill $watcher 2>/dev/null
 kill -s KILL -- -$office 2>/dev/null
-rm -rf -- "$folder" "/tmp/OSL_PIPE_$(id -u)_${folder##*/}"
+mark=$(printf %s "$profile" | iconv -f UTF-8 -t UTF-16LE | md5sum | cut -c1-32 |
+  sed 's/\(..\)/ \1/g; s/ 0/ /g; s/ //g')
+sockets=/tmp/OSL_PIPE_$(id -u)
+rm -rf -- "$folder" "${sockets}_${folder##*/}" "${sockets}_SingleOfficeIPC_$mark"
 exit $status
 )";
 
@@ -94,6 +104,7 @@ std::vector<std::string> Environment() {
 
 std::vector<std::string> CommandLine(const fs::path& programFolder, const fs::path& folder,
                                      const std::string& pipeName) {
+  const std::string profile = "file://" + (folder / "profile").string();
   // The launcher, not the program behind it: on a new profile that one ends at once and asks to be
   // started again.
   return {"/bin/sh",
@@ -101,6 +112,7 @@ std::vector<std::string> CommandLine(const fs::path& programFolder, const fs::pa
           kSupervisor,
           "rangewerks-office",
           folder.string(),
+          profile,
           (programFolder / "soffice").string(),
           "--headless",
           "--invisible",
@@ -108,7 +120,7 @@ std::vector<std::string> CommandLine(const fs::path& programFolder, const fs::pa
           "--nologo",
           "--nodefault",
           "--accept=pipe,name=" + pipeName + ";urp;",
-          "-env:UserInstallation=file://" + (folder / "profile").string()};
+          "-env:UserInstallation=" + profile};
 }
 
 class SpawnSetup {

@@ -20,6 +20,7 @@ OUString ToUno(std::string_view text) {
 extern "C" const char* __lsan_default_suppressions();
 extern "C" const char* __lsan_default_suppressions() {
   return "leak:com::sun::star::uno::Type::operator new\n"
+         "leak:cppu_detail_getUnoType\n"
          "leak:libuno_cppu.so\n"
          "leak:libuno_sal.so\n";
 }
