@@ -26,7 +26,7 @@ constexpr const char* kReadFooter =
     "Numbers and dates that stand in cells as text are read by the locale (LC_ALL).\n"
     "Exit status: 0 when every cell could be read, 1 with bad cells, 2 for wrong usage or files.\n";
 
-void AddRead(CLI::App& app, ReadOptions& options) {
+void AddRead(CLI::App& app, SheetOptions& options) {
   static const std::map<std::string, HostKind> hosts = {{"libreoffice", HostKind::LibreOffice},
                                                         {"workbook", HostKind::Workbook}};
   static const std::map<std::string, OutputForm> forms = {
@@ -72,7 +72,7 @@ int Tell(const std::string& words) {
 int Run(int argc, char** argv) {
   CLI::App app("Finds declared cell ranges on a spreadsheet and reads them by their types.",
                "rangewerks");
-  ReadOptions options;
+  SheetOptions options;
   app.set_version_flag("--version", "rangewerks " RANGEWERKS_VERSION);
   app.require_subcommand(1);
   app.footer(kFooter);

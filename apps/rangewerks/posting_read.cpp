@@ -6,7 +6,6 @@
 #include "automation/conversions.h"
 #include "automation/error.h"
 #include "errors/attempt.h"
-#include "rangelist/ExcelFunctions.h"
 
 namespace rangewerks::apps {
 
@@ -14,24 +13,6 @@ namespace {
 
 using automation::Error;
 using automation::Variant;
-
-/// In single quotes, as addresses have it.
-std::string QuotedSheet(const std::string& name) {
-  std::string quoted = "'";
-  for (const char each : name) {
-    if (each == '\'') quoted += each;
-    quoted += each;
-  }
-  return quoted + '\'';
-}
-
-/// "$B$7:$B$9" as "B7:B9", with the sheet in front when it is another than the one that is read.
-std::string ShownAddress(const excel::Range& area, const std::string& sheet) {
-  std::string address = area.get_Address();
-  std::erase(address, '$');
-  const std::string place = area.get_Parent().get_Name();
-  return place == sheet ? address : QuotedSheet(place) + '!' + address;
-}
 
 /// What the cell holds, as text.
 std::string ContentOf(const excel::Range& cell) {
@@ -41,31 +22,19 @@ std::string ContentOf(const excel::Range& cell) {
                           : ToString(value, automation::Locale::Current());
 }
 
-RangeUse UseOf(const clsExInputRange& record) {
-  if (record.get_BecomeHeader()) return RangeUse::Header;
-  switch (record.get_DetailIndicator()) {
-    case hdiHeader:
-      return RangeUse::Header;
-    case hdiDetail:
-    case hdiHeaderDetail:
-      return RangeUse::Detail;
-    case hdiNone:
-      break;
-  }
-  return RangeUse::None;
-}
-
 /// One run over one sheet.
 class Reading {
  public:
   Reading(clsInterfaceRangeList& list, const excel::Worksheet& sheet) : list_(list), sheet_(sheet) {
-    result_.sheet = sheet.get_Name();
-    result_.usingSheetRangeNames = list.get_UsingSheetRangeNames();
-    result_.namesBeginWith = NamesBeginWith();
+    static_cast<SheetRanges&>(result_) = LocateRanges(list, sheet);
+    for (std::size_t index = 0; index < result_.ranges.size(); ++index) {
+      const RangeUse use = result_.ranges[index].use;
+      if (use == RangeUse::Header) result_.headers.push_back(index);
+      if (use == RangeUse::Detail) result_.details.push_back(index);
+    }
   }
 
   PostingRead Run(const LineRead& lineRead) {
-    for (std::int32_t index = 1; index <= list_.Count(); ++index) Describe(*list_.Item(index));
     for (const std::size_t index : result_.headers) {
       result_.header.push_back(Read(result_.ranges[index], 1));
     }
@@ -78,38 +47,6 @@ class Reading {
   }
 
  private:
-  void Describe(const clsExInputRange& record) {
-    FoundRange range;
-    range.name = record.get_RangeName();
-    range.lookedForAs = result_.namesBeginWith + range.name;
-    range.type = record.get_RangeDataType();
-    range.decimalPlaces = record.get_DecimalPlaces();
-    range.isMandatory = record.get_IsMandatory();
-    range.use = UseOf(record);
-    range.actsAsHeader = range.use == RangeUse::Header;
-    range.exists = record.get_RangeExists();
-    if (range.exists) {
-      // A range that counts as there may have no area all the same; reading it then says why.
-      Attempt([&] {
-        const excel::Range area = list_.GetRange(range.name);
-        range.rows = area.get_Rows().get_Count();
-        range.address = ShownAddress(area, result_.sheet);
-      });
-    }
-    if (range.use == RangeUse::Header) result_.headers.push_back(result_.ranges.size());
-    if (range.use == RangeUse::Detail) result_.details.push_back(result_.ranges.size());
-    result_.ranges.push_back(std::move(range));
-  }
-
-  /// Of the names by which SetIfRangesExist knows the ranges: unlike those of FullRangeName they
-  /// have the prefix under the plain scheme too.
-  std::string NamesBeginWith() const {
-    const std::string& prefix = list_.get_RangePrefix();
-    return list_.get_UsingSheetRangeNames()
-               ? ExcelFunctions::RangeNameMultiTab(result_.sheet, prefix)
-               : prefix;
-  }
-
   /// How many lines of a range are read: its rows, and one where the area can't be told, so that
   /// the failure shows once.
   static std::int32_t LinesOf(const FoundRange& range) {
@@ -199,15 +136,8 @@ class Reading {
 
 }  // namespace
 
-bool PostingRead::AnyRangeExists() const {
-  return std::ranges::any_of(ranges, &FoundRange::exists);
-}
-
 PostingRead ReadPosting(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
                         const LineRead& lineRead) {
-  list.set_ActSheet(sheet);
-  list.let_SheetRangeNames(list.get_SheetRangeNames());  // what an earlier sheet has put in force
-  list.SetIfRangesExist();
   return Reading(list, sheet).Run(lineRead);
 }
 

@@ -1,5 +1,6 @@
 #include "apps/rangewerks/spreadsheet.h"
 
+#include <array>
 #include <filesystem>
 
 #include "apps/rangewerks/failure.h"
@@ -15,7 +16,12 @@ namespace {
 
 class InMemory final : public Spreadsheet {
  public:
-  automation::Object Open(const std::string& path) override { return host_.Open(path); }
+  automation::Object Open(const std::string& path, Access /*access*/) override {
+    return host_.Open(path);
+  }
+  void SaveCopyAs(const automation::Object& workbook, const std::string& path) override {
+    host_.SaveCopyAs(workbook, path);
+  }
 
  private:
   hosts::workbook::Host host_;
@@ -24,8 +30,11 @@ class InMemory final : public Spreadsheet {
 #ifdef RANGEWERKS_LIBREOFFICE
 class LibreOffice final : public Spreadsheet {
  public:
-  automation::Object Open(const std::string& path) override {
-    return office_.Open(path, {.readOnly = true});
+  automation::Object Open(const std::string& path, Access access) override {
+    return office_.Open(path, {.readOnly = access == Access::Read});
+  }
+  void SaveCopyAs(const automation::Object& workbook, const std::string& path) override {
+    office_.SaveCopyAs(workbook, path);
   }
 
  private:
@@ -46,6 +55,13 @@ std::unique_ptr<Spreadsheet> StartLibreOffice() {
 HostKind HostFor(const std::string& path) {
   const std::string extension = std::filesystem::path(path).extension().string();
   return automation::EqualText(extension, ".json") ? HostKind::Workbook : HostKind::LibreOffice;
+}
+
+std::span<const std::string_view> WrittenBy(HostKind kind) {
+  static constexpr std::array<std::string_view, 1> kWorkbook{".json"};
+  static constexpr std::array<std::string_view, 4> kLibreOffice{".xlsx", ".xlsm", ".xls", ".ods"};
+  if (kind == HostKind::Workbook) return kWorkbook;
+  return kLibreOffice;
 }
 
 std::unique_ptr<Spreadsheet> StartSpreadsheet(HostKind kind) {

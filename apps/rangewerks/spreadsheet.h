@@ -3,7 +3,9 @@
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <string>
+#include <string_view>
 
 #include "automation/object.h"
 
@@ -18,15 +20,26 @@ enum class HostKind {
 /// workbook in memory.
 HostKind HostFor(const std::string& path);
 
+enum class Access {
+  Read,   ///< no lock is left on the file, and one that somebody else has open is opened all the
+          ///< same
+  Write,  ///< cells can be changed; a file that somebody else has open is refused
+};
+
+/// The extensions of the files that a host writes, such as ".ods".
+std::span<const std::string_view> WrittenBy(HostKind kind);
+
 /// A running program. Workbooks are gone when it is.
 class Spreadsheet {
  public:
   virtual ~Spreadsheet() = default;
 
-  /// Opens a file for reading and makes it the active workbook: no lock is left on it, and one that
-  /// somebody else has open is opened all the same. Raises an automation::Error that says what is
-  /// wrong with the file.
-  virtual automation::Object Open(const std::string& path) = 0;
+  /// Opens a file and makes it the active workbook. The file itself is never changed. Raises an
+  /// automation::Error that says what is wrong with it.
+  virtual automation::Object Open(const std::string& path, Access access) = 0;
+  /// Writes a workbook to another file, in the format that its extension tells. Raises an
+  /// automation::Error when it can't.
+  virtual void SaveCopyAs(const automation::Object& workbook, const std::string& path) = 0;
 };
 
 /// Starts the program. Raises Failure when this build has no such host, automation::Error when it
