@@ -86,19 +86,12 @@ clsInterfaceRangeList::Record clsInterfaceRangeList::DeclaredAtEndOf(
 }
 
 void clsInterfaceRangeList::RenameNamesForNewSheet(const std::string& NewName) {
-  std::string sheetName;
-  excel::Workbook workbook;
-  if (!Attempt([&] {
-        sheetName = actSheet_.get_Name();
-        workbook = actSheet_.get_Parent();
-      })) {
-    return;
-  }
   for (const Record& record : ranges_->Records()) {
+    // One range that fails, whatever the step, leaves the others to be renamed.
     Attempt([&] {
       const std::string declared = rangePrefix_ + record->get_RangeName();
-      const excel::Name name =
-          workbook.get_Names(ExcelFunctions::RangeNameMultiTab(sheetName, declared));
+      const std::string oldName = ExcelFunctions::RangeNameMultiTab(actSheet_.get_Name(), declared);
+      const excel::Name name = actSheet_.get_Parent().get_Names(oldName);
       name.get_RefersToRange();
       name.let_Name(ExcelFunctions::RangeNameMultiTab(NewName, declared));
     });

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "rangelist/ExcelFunctions.h"
+#include "support/fixed_system.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -54,16 +55,6 @@ TEST(ExcelFunctionsObject, AnswersByName) {
 }
 
 TEST(DllPath, IsTheFolderOfTheLibrarysFileWithoutASeparatorBehind) {
-  class FixedSystem final : public platform::System {
-   public:
-    explicit FixedSystem(std::string file) : file_(std::move(file)) {}
-    std::string LibraryFile() const override { return file_; }
-    std::optional<std::string> LoggedOnUser() const override { return std::nullopt; }
-    automation::Locale CurrentLocale() const override { return {}; }
-
-   private:
-    std::string file_;
-  };
   const auto folderOf = [](const char* file) {
     return ExcelFunctions(std::make_shared<FixedSystem>(file)).DllPath();
   };
@@ -248,6 +239,17 @@ TEST_F(Naming, RenameNamesForNewSheetPassesAFailedRenameOverInSilence) {
   list->set_ActSheet({});
   list->RenameNamesForNewSheet("X");
   EXPECT_TRUE(HasName("Sheet1__a"));
+}
+
+TEST_F(Naming, RenameNamesForNewSheetPassesOverOneRangeForWhichTheSheetFails) {
+  Declare("first");
+  Declare("second");
+  Define("Sheet1__first", "=Sheet1!$A$1");
+  Define("Sheet1__second", "=Sheet1!$A$2");
+  host.Calls().FailCall(1, 1004, "busy");
+  list->RenameNamesForNewSheet("X");
+  EXPECT_TRUE(HasName("Sheet1__first"));
+  EXPECT_TRUE(HasName("X__second"));
 }
 
 TEST_F(Naming, RenameNamesForNewSheetRenamesInPlace) {
