@@ -139,8 +139,8 @@ std::string Middle(std::string_view text, std::size_t skip, std::size_t count) {
   return std::string(automation::Left(text, count));
 }
 
-/// A date typed without separators, such as 311299. From eight digits the century is taken for the
-/// year, so that it always comes out as 20.
+/// A date typed without separators, such as 311299. Of eight digits the last two are lost and
+/// the century stands for the year: 31122099 becomes 31/12/20.
 std::string FromDigits(std::string digits) {
   const std::size_t length = automation::Length(digits);
   if (length < 6) digits.insert(0, 1, '0');
