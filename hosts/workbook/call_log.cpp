@@ -110,12 +110,23 @@ void CallLog::ClearFailures() {
   memberFailures_.clear();
 }
 
+bool CallLog::Announce() {
+  if (!watcher_) return true;
+  if (watching_) return false;
+  watching_ = true;
+  watcher_();
+  watching_ = false;
+  return true;
+}
+
 void CallLog::Note(Member type, const Invocation& call) {
+  if (!Announce()) return;
   if (logging_) lines_.push_back(LineOf(type, call));
   NoteKey(KeyOf(type, call.member));
 }
 
 void CallLog::NoteWalk(Member type) {
+  if (!Announce()) return;
   if (logging_) lines_.push_back(type.Name() + " enumerate");
   NoteKey(KeyOf(type, WalkMember()));
 }

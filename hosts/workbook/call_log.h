@@ -8,6 +8,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <string_view>
 #include <unordered_map>
@@ -50,6 +51,10 @@ class CallLog {
   void FailMember(std::string_view member, std::int32_t number, std::string description);
   void ClearFailures();
 
+  /// Runs `watcher` ahead of every call, as the call is about to be noted; an empty one ends that.
+  /// It may look at the host freely: its own calls are neither noted nor made to fail.
+  void Watch(std::function<void()> watcher) { watcher_ = std::move(watcher); }
+
   /// Notes one call; raises the failure that was requested for it, if any.
   void Note(automation::Member type, const automation::Invocation& call);
   /// Notes the start of a walk.
@@ -64,6 +69,8 @@ class CallLog {
 
   static Key KeyOf(automation::Member type, automation::Member member);
   static Key KeyOf(std::string_view member);
+  /// Whether a call is to be noted, which those of the watcher aren't.
+  bool Announce();
   void NoteKey(Key key);
   void RaiseRequested(Key key);
 
@@ -74,6 +81,8 @@ class CallLog {
   std::size_t made_ = 0;  // like count_, but Reset leaves it alone
   std::unordered_map<std::size_t, Failure> callFailures_;
   std::unordered_map<Key, Failure> memberFailures_;
+  std::function<void()> watcher_;
+  bool watching_ = false;
 };
 
 }  // namespace rangewerks::hosts::workbook

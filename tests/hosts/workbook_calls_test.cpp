@@ -200,6 +200,20 @@ TEST_F(WorkbookCalls, ThatFailOnRequestAreCounted) {
   EXPECT_EQ(host_.Calls().Count("Worksheet.Name"), 1U);
 }
 
+TEST_F(WorkbookCalls, AreAnnouncedToAWatcherWhoseOwnCallsAreNotNoted) {
+  const Object cell = GetObject(sheet_, "Range", {"A1"});
+  std::vector<Variant> seen;
+  host_.Calls().Reset();
+  host_.Calls().FailCall(2, kRefused, "locked");
+  host_.Calls().Watch([&] { seen.push_back(Get(cell, "Value")); });
+  Let(cell, "Value", 1.0);
+  EXPECT_TRUE(Fails([&] { Let(cell, "Value", 2.0); }));
+  host_.Calls().Watch({});
+  EXPECT_EQ(Get(cell, "Value"), Variant(1.0));
+  EXPECT_EQ(seen, (std::vector<Variant>{Variant(), Variant(1.0)}));
+  EXPECT_EQ(host_.Calls().Count(), 3U);
+}
+
 TEST_F(WorkbookCalls, HaveNoCallNumberZeroToFail) {
   EXPECT_EQ(ErrorNumberOf([&] { host_.Calls().FailCall(0, kRefused, "never"); }), 5);
 }
