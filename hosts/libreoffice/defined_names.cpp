@@ -60,13 +60,18 @@ const Reference<css::sheet::XNamedRanges>& DefinedName::Container() const {
 }
 
 const Reference<css::sheet::XNamedRange>& DefinedName::Required() {
-  if (range_.is()) return range_;
+  if (!Load()) Fail("The name \"" + text_ + "\" has been deleted or renamed");
+  return range_;
+}
+
+bool DefinedName::Load() {
+  if (range_.is()) return true;
   try {
     range_ = Extract<Reference<css::sheet::XNamedRange>>(Container()->getByName(ToUno(text_)));
+    return true;
   } catch (const css::container::NoSuchElementException&) {
-    Fail("The name \"" + text_ + "\" has been deleted or renamed");
+    return false;
   }
-  return range_;
 }
 
 bool DefinedName::Exists() const { return Container()->hasByName(ToUno(text_)); }
@@ -162,7 +167,7 @@ std::optional<DefinedName> FindName(Book& book, const SheetPointer& scope,
   SheetPointer sheet = parts.hasSheet ? book.FindSheet(parts.sheet) : scope;
   if (parts.hasSheet && !sheet) return std::nullopt;
   DefinedName name(book, std::move(sheet), parts.rest);
-  if (!name.Exists()) return std::nullopt;
+  if (!name.Load()) return std::nullopt;
   return name;
 }
 

@@ -27,6 +27,8 @@ class DefinedName {
 
   const SheetPointer& Scope() const noexcept { return scope_; }
   bool Exists() const;
+  /// As Exists, and keeps what was found: the call to the office that every use needs anyway.
+  bool Load();
   /// With the sheet and "!" in front when it is a name of one sheet.
   std::string FullText();
   /// The content in the office's notation.

@@ -85,20 +85,24 @@ Area Worksheet::AreaOf(const std::string& nameOrAddress) const {
   if (!mayHaveSheet) {
     if (const auto area = workbook::ParseAddress(wanted)) return *area;
   }
-  const std::string refused =
-      "Range \"" + nameOrAddress + "\" isn't valid on sheet \"" + sheet_->Name() + "\": ";
+  const auto refuse = [&](const std::string& reason) {
+    Fail("Range \"" + nameOrAddress + "\" isn't valid on sheet \"" + sheet_->Name() +
+         "\": " + reason);
+  };
   auto name = mayHaveSheet ? std::nullopt : FindName(*book_, sheet_, wanted);
   if (!name) name = FindName(*book_, nullptr, wanted);
   if (name) {
     const auto cells = name->Cells();
     if (cells && cells->sheet == sheet_) return cells->area;
-    Fail(refused + "the name refers to " + name->RefersTo());
+    refuse("the name refers to " + name->RefersTo());
   }
   const auto parts = workbook::SplitSheet(wanted);
   const auto area = workbook::ParseAddress(parts.rest);
-  if (area && automation::EqualText(parts.sheet, sheet_->Name())) return *area;
-  Fail(refused + (area ? "it is an address on another sheet"
-                       : "there is no such name, nor is it an address"));
+  if (!area) refuse("there is no such name, nor is it an address");
+  if (!automation::EqualText(parts.sheet, sheet_->Name())) {
+    refuse("it is an address on another sheet");
+  }
+  return *area;
 }
 
 Area Worksheet::AreaOf(const Variant& cells) const {

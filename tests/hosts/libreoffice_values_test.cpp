@@ -21,13 +21,18 @@ class LibreOfficeValues : public testing::Test {
 
   Object Cells(const char* address) { return GetObject(sheet_, "Range", {address}); }
   Variant ValueOf(const char* address) { return Get(Cells(address), "Value"); }
+  /// What an untouched cell shows after the formula has been entered.
   Variant ShownBy(const char* formula) {
-    Let(Cells("A1"), "Formula", formula);
-    return ValueOf("A1");
+    const Object cell = GetObject(sheet_, "Cells", {++used_, 26});
+    Let(cell, "Formula", formula);
+    return Get(cell, "Value");
   }
 
   Object book_;
   Object sheet_;
+
+ private:
+  std::int32_t used_ = 0;
 };
 
 TEST_F(LibreOfficeValues, EveryErrorHasItsNumber) {
@@ -54,6 +59,15 @@ TEST_F(LibreOfficeValues, AFormulaShowsABooleanOrADateAsSuch) {
   EXPECT_EQ(ShownBy("=TIME(12,0,0)"), Variant(Date{0.5}));
   EXPECT_EQ(ShownBy("=2*3"), Variant(6.0));
   EXPECT_EQ(ShownBy("=IF(1>2,TRUE,FALSE)"), Variant(false));
+}
+
+TEST_F(LibreOfficeValues, ANumberAfterABooleanIsANumberAgain) {
+  Let(Cells("A1"), "Formula", "=1=1");
+  EXPECT_EQ(ValueOf("A1"), Variant(true));
+  Let(Cells("A1"), "Value", 1.0);
+  EXPECT_EQ(ValueOf("A1"), Variant(1.0));
+  Let(Cells("A1"), "Formula", "=2-1");
+  EXPECT_EQ(ValueOf("A1"), Variant(1.0));
 }
 
 TEST_F(LibreOfficeValues, ABlockOfMixedFormatsIsReadAsItsCellsAre) {
