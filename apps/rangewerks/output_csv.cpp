@@ -1,5 +1,4 @@
-#include <string_view>
-
+#include "apps/rangewerks/csv_document.h"
 #include "apps/rangewerks/output.h"
 #include "apps/rangewerks/value_text.h"
 
@@ -7,24 +6,13 @@ namespace rangewerks::apps {
 
 namespace {
 
-/// In quotes when it has a comma, a quote or a line break; quotes inside are doubled.
-std::string Quoted(const std::string& text) {
-  if (text.find_first_of(",\"\r\n") == std::string::npos) return text;
-  std::string quoted = "\"";
-  for (const char each : text) {
-    if (each == '"') quoted += '"';
-    quoted += each;
-  }
-  return quoted + '"';
-}
-
 void AppendNames(std::string& line, const PostingRead& posting,
                  const std::vector<std::size_t>& places) {
-  for (const std::size_t place : places) line += ',' + Quoted(posting.ranges[place].name);
+  for (const std::size_t place : places) line += ',' + CsvField(posting.ranges[place].name);
 }
 
 void AppendValues(std::string& line, const std::vector<ReadValue>& values) {
-  for (const ReadValue& read : values) line += ',' + Quoted(ValueText(read.value));
+  for (const ReadValue& read : values) line += ',' + CsvField(ValueText(read.value));
 }
 
 }  // namespace

@@ -1,5 +1,5 @@
-#include "apps/rangewerks/json_document.h"
 #include "apps/rangewerks/output.h"
+#include "apps/rangewerks/output_parts.h"
 #include "automation/conversions.h"
 
 namespace rangewerks::apps {
@@ -17,19 +17,6 @@ Json JsonValue(const automation::Variant& value) {
 
 Json JsonRead(const ReadValue& read) {
   return {{"found", read.found}, {"value", JsonValue(read.value)}};
-}
-
-Json TextOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
-
-Json JsonRanges(const PostingRead& posting) {
-  Json ranges = Json::object();
-  for (const FoundRange& range : posting.ranges) {
-    ranges[range.name] = {{"exists", range.exists},
-                          {"address", TextOrNull(range.address)},
-                          {"rows", range.rows},
-                          {"acts_as_header", range.actsAsHeader}};
-  }
-  return ranges;
 }
 
 /// `values` belong to those of the posting's ranges that stand at `places`.
@@ -74,7 +61,7 @@ std::string JsonOf(const std::string& book, const PostingRead& posting) {
                          {"header", JsonValues(posting, posting.headers, posting.header)},
                          {"rows", JsonRows(posting)},
                          {"errors", JsonErrors(posting)}};
-  return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";
+  return JsonText(document);
 }
 
 }  // namespace rangewerks::apps

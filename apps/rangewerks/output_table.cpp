@@ -1,13 +1,11 @@
 #include "apps/rangewerks/output.h"
+#include "apps/rangewerks/output_parts.h"
 #include "apps/rangewerks/text_table.h"
 #include "apps/rangewerks/value_text.h"
 
 namespace rangewerks::apps {
 
 namespace {
-
-constexpr std::size_t kWidestCell = 40;    // characters of a text that are shown among others
-constexpr std::size_t kWidestWords = 200;  // and of a message
 
 /// The mark that stands for a bad cell and leads to its entry in the list.
 std::string Mark(std::size_t badCell) { return "!" + std::to_string(badCell + 1); }
@@ -38,20 +36,6 @@ Align AlignOf(const FoundRange& range) {
   return range.type == rdtInteger ? Align::Right : Align::Left;
 }
 
-std::string Counted(std::size_t count, const char* one, const char* many) {
-  return std::to_string(count) + " " + (count == 1 ? one : many);
-}
-
-std::string TitleOf(const std::string& book, const PostingRead& posting) {
-  TextTable title({{}, {}});
-  title.Add({"Workbook", OneLine(book, kWidestWords)});
-  title.Add({"Sheet", OneLine(posting.sheet, kWidestWords)});
-  title.Add(
-      {"Names", OneLine(posting.namesBeginWith, kWidestWords) + "<range>" +
-                    (posting.usingSheetRangeNames ? "  (sheet scheme)" : "  (plain scheme)")});
-  return title.Render("");
-}
-
 std::string HeaderOf(const PostingRead& posting) {
   TextTable table({{}, {}});
   for (std::size_t index = 0; index < posting.headers.size(); ++index) {
@@ -78,16 +62,6 @@ std::string DetailOf(const PostingRead& posting) {
     table.Add(std::move(cells));
   }
   return "\nDetail: " + Counted(posting.rows.size(), "row", "rows") + "\n" + table.Render("  ");
-}
-
-std::string MissingOf(const PostingRead& posting) {
-  TextTable table({{}, {}, {}});
-  for (const FoundRange& range : posting.ranges) {
-    if (range.exists) continue;
-    table.Add({range.name, "looked for as " + range.lookedForAs,
-               range.isMandatory ? "(declared as mandatory)" : ""});
-  }
-  return table.IsEmpty() ? "" : "\nDeclared, but not on this sheet\n" + table.Render("  ");
 }
 
 std::string PlaceOf(const BadCell& bad) { return bad.address.empty() ? "?" : bad.address; }
