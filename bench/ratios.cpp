@@ -3,11 +3,10 @@
 //   build/release/bench/ratios
 #include <benchmark/benchmark.h>
 
-#include <cstdio>
-#include <map>
 #include <string>
 
 #include "automation/conversions.h"
+#include "best_times.h"
 #include "errors/procedure.h"
 #include "scene.h"
 
@@ -16,6 +15,8 @@ namespace {
 using rangewerks::Line;
 using rangewerks::Procedure;
 using rangewerks::automation::Locale;
+using rangewerks::bench::BestTimes;
+using rangewerks::bench::PrintFigure;
 using rangewerks::bench::Scene;
 
 // --- a procedure and the same body without one ---------------------------------------------------
@@ -82,44 +83,21 @@ void Locate(benchmark::State& state) {
 }
 BENCHMARK(Locate)->Name("SetIfRangesExist")->Arg(100)->Arg(1000)->Arg(10000);
 
-/// Keeps the best time of each measurement; ratios of those are steadier than of means.
-class BestTimes final : public benchmark::BenchmarkReporter {
- public:
-  bool ReportContext(const Context& /*context*/) override { return true; }
-  void ReportRuns(const std::vector<Run>& runs) override {
-    for (const Run& run : runs) {
-      if (run.run_type != Run::RT_Iteration) continue;
-      const double time = run.GetAdjustedCPUTime();
-      const auto [best, added] = times_.try_emplace(
-          run.run_name.function_name + (run.run_name.args.empty() ? "" : "/") + run.run_name.args,
-          time);
-      if (!added && time < best->second) best->second = time;
-    }
-  }
-  double Of(const std::string& name) const { return times_.at(name); }
-
- private:
-  std::map<std::string, double> times_;
-};
-
 }  // namespace
 
 int main(int argc, char** argv) {
   benchmark::Initialize(&argc, argv);
   if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
-  BestTimes times;
-  for (int round = 0; round < 5; ++round) benchmark::RunSpecifiedBenchmarks(&times);
+  const BestTimes times = BestTimes::Measure();
 
-  const auto print = [](const char* what, double ratio) {
-    std::printf("%-62s %6.2f\n", what, ratio);
-  };
-  print("a procedure that succeeds : its body without the wrapper",
-        times.Of("procedure/wrapped") / times.Of("procedure/by hand"));
-  print("GetValRange : the same late-bound calls by hand",
-        times.Of("GetValRange/typed") / times.Of("GetValRange/by hand"));
+  PrintFigure("a procedure that succeeds : its body without the wrapper",
+              times.Of("procedure/wrapped") / times.Of("procedure/by hand"));
+  PrintFigure("GetValRange : the same late-bound calls by hand",
+              times.Of("GetValRange/typed") / times.Of("GetValRange/by hand"));
   const auto each = [&](int names) {
     return times.Of("SetIfRangesExist/" + std::to_string(names)) / names;
   };
-  print("SetIfRangesExist, time a name, 1,000 names : 100 names", each(1000) / each(100));
-  print("SetIfRangesExist, time a name, 10,000 names : 1,000 names", each(10000) / each(1000));
+  PrintFigure("SetIfRangesExist, time a name, 1,000 names : 100 names", each(1000) / each(100));
+  PrintFigure("SetIfRangesExist, time a name, 10,000 names : 1,000 names",
+              each(10000) / each(1000));
 }
