@@ -93,6 +93,15 @@ class Writing {
                     static_cast<std::size_t>(column - area_.column)];
   }
 
+  /// One element of what is written; a word of the office's language for true or false is one.
+  Variant ElementAt(const Variant& value, std::int32_t row, std::int32_t column, FormatKind kind) {
+    Variant element = ElementFor(value, row - area_.row + 1, column - area_.column + 1);
+    const auto* text = element.TryGet<std::string>();
+    if (text == nullptr || kind == FormatKind::Text) return element;
+    const auto boolean = book_.NumberFormats().BooleanOf(*text);
+    return boolean ? Variant(*boolean) : element;
+  }
+
   void ReadEntries(const FormattedArea& part, const Variant& value, const Locale& locale) {
     Formats& formats = book_.NumberFormats();
     const FormatKind kind = formats.KindOf(part.key);
@@ -100,8 +109,7 @@ class Writing {
     for (std::int32_t row = part.area.row; row <= part.area.LastRow(); ++row) {
       for (std::int32_t column = part.area.column; column <= part.area.LastColumn(); ++column) {
         Placed& placed = At(row, column);
-        placed.entry = EntryOf(ElementFor(value, row - area_.row + 1, column - area_.column + 1),
-                               kind, locale, firstDay);
+        placed.entry = EntryOf(ElementAt(value, row, column, kind), kind, locale, firstDay);
         const bool isNumber =
             placed.entry.kind == Kind::Number || placed.entry.kind == Kind::Formula;
         if (kind == FormatKind::Boolean && isNumber) {

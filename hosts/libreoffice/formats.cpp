@@ -94,6 +94,17 @@ FormatKind Formats::KindOfShown(const std::string& shown) {
   }
 }
 
+std::optional<bool> Formats::BooleanOf(const std::string& word) {
+  if (trueWord_.empty()) {
+    const std::int32_t key = KeyOf("BOOLEAN");
+    trueWord_ = ToUtf8(Reader()->convertNumberToString(key, 1));
+    falseWord_ = ToUtf8(Reader()->convertNumberToString(key, 0));
+  }
+  if (automation::EqualText(word, trueWord_)) return true;
+  if (automation::EqualText(word, falseWord_)) return false;
+  return std::nullopt;
+}
+
 std::string Formats::TextOf(std::int32_t key) {
   if (key == 0) return kGeneral;
   const auto english = As<css::util::XNumberFormats>(All());

@@ -5,6 +5,7 @@
 #include <com/sun/star/uno/XComponentContext.hpp>
 #include <com/sun/star/util/XNumberFormats.hpp>
 #include <com/sun/star/util/XNumberFormatter.hpp>
+#include <optional>
 #include <string>
 #include <unordered_map>
 #include <vector>
@@ -33,6 +34,10 @@ class Formats {
   /// shows its result. A number is Other.
   FormatKind KindOfShown(const std::string& shown);
 
+  /// What a typed word means that stands for true or false in the office's language, such as
+  /// "WAHR".
+  std::optional<bool> BooleanOf(const std::string& word);
+
   /// The format as text in English notation, and the key of such a text, made when it is new.
   /// Raises 1004 for a text that is no format. An empty text is "General".
   std::string TextOf(std::int32_t key);
@@ -48,6 +53,8 @@ class Formats {
   Reference<css::util::XNumberFormatter> reader_;
   std::unordered_map<std::int32_t, FormatKind> kinds_;
   std::unordered_map<std::string, std::int32_t> keys_;
+  std::string trueWord_;
+  std::string falseWord_;
 };
 
 /// The key of the format that a cell, or the first cell of a block, has.
