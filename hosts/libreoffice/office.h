@@ -17,8 +17,10 @@
 namespace rangewerks::hosts::libreoffice {
 
 struct OpenOptions {
-  /// Opens without a lock: also a file that somebody else has open.
+  /// Leaves no lock on the file while it is open here.
   bool readOnly = false;
+  /// Opens, for reading only, also a file that somebody else has open: as it was last saved.
+  bool evenIfLocked = false;
 };
 
 /// A private office process, started headless on a pipe of its own with its own profile folder: no

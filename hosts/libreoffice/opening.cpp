@@ -76,8 +76,8 @@ void RequireFile(const std::string& path) {
 void RequireNoLock(const std::string& path) {
   if (const auto owner = LockOwnerOf(path)) {
     Fail(path + " is locked: " + *owner +
-         " has it open. Close it there, open it read-only, or remove the file " +
-         LockFileOf(path).string() + " if nobody has.");
+         " has it open. Save and close it there, or remove the file " + LockFileOf(path).string() +
+         " if nobody has.");
   }
 }
 
@@ -123,7 +123,8 @@ Reference<css::lang::XComponent> LoadFile(Session& session, const std::string& p
   try {
     component =
         Load(session, UrlOf(path),
-             {Option("Hidden", Any(true)), Option("ReadOnly", Any(options.readOnly)),
+             {Option("Hidden", Any(true)),
+              Option("ReadOnly", Any(options.readOnly || options.evenIfLocked)),
               Option("MacroExecutionMode", Any(css::document::MacroExecMode::NEVER_EXECUTE)),
               Option("UpdateDocMode", Any(css::document::UpdateDocMode::NO_UPDATE)),
               Option("InteractionHandler",
@@ -168,7 +169,7 @@ BookPointer OpenDocument(Session& session, const std::string& given, OpenOptions
     return open;
   }
   RequireSpreadsheetSignature(path);
-  if (!options.readOnly) RequireNoLock(path);
+  if (!options.evenIfLocked) RequireNoLock(path);
 
   const auto component = LoadFile(session, path, options);
   const Reference<css::frame::XModel> model(component, css::uno::UNO_QUERY);

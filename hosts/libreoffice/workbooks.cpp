@@ -41,7 +41,8 @@ Variant Workbooks::Add() { return Workbook::Of(Office(), NewDocument(*Office(), 
 
 Variant Workbooks::Open(const Variant& filename, const Variant& readOnly) {
   const bool onlyRead = ToBoolean(readOnly, automation::Locale::Current());
-  return Workbook::Of(Office(), OpenDocument(*Office(), TextArgument(filename), {onlyRead}));
+  return Workbook::Of(Office(),
+                      OpenDocument(*Office(), TextArgument(filename), {onlyRead, onlyRead}));
 }
 
 std::unique_ptr<Enumerator> Workbooks::Walk() {

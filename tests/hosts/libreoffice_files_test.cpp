@@ -169,10 +169,10 @@ TEST_F(LibreOfficeFiles, ALockedFileIsRefusedWithItsOwner) {
   const std::string lock =
       folder_.Write(".~lock.shared.xlsx#", "Ann Lee,ann,desk7,01.02.2026 10:00,file:///home/ann;");
   EXPECT_EQ(Refusal(path), path +
-                               " is locked: Ann Lee on desk7 has it open. Close it there, open "
-                               "it read-only, or remove the file " +
+                               " is locked: Ann Lee on desk7 has it open. Save and close it "
+                               "there, or remove the file " +
                                lock + " if nobody has.");
-  const Object book = SharedOffice().Open(path, {.readOnly = true});
+  const Object book = SharedOffice().Open(path, {.evenIfLocked = true});
   EXPECT_EQ(GetText(book, "FullName"), path);
 }
 
