@@ -8,26 +8,11 @@
 
 namespace rangewerks::apps {
 
-namespace {
-
-constexpr std::size_t kLongestShown = 60;  // characters of a found value in a message
-
-/// The value as the file has it, shortened when it is long.
-std::string Shown(const Json& value) {
-  if (value.is_object()) return "an object";
-  if (value.is_array()) return "a list";
-  std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
-  if (automation::Length(text) <= kLongestShown) return text;
-  return std::string(automation::Left(text, kLongestShown)) + "…";
-}
-
-}  // namespace
-
 FieldReader::FieldReader(const Json& value, std::string pointer)
     : object_(value), pointer_(std::move(pointer)) {
   if (!object_.is_object()) {
-    throw Failure((pointer_.empty() ? "the whole file" : pointer_) + ": found " + Shown(object_) +
-                  ", expected an object, {…}");
+    throw Failure((pointer_.empty() ? "the whole file" : pointer_) + ": found " +
+                  ShownJson(object_) + ", expected an object, {…}");
   }
 }
 
@@ -103,7 +88,7 @@ const Json* FieldReader::Find(std::string_view field) {
 
 void FieldReader::RefuseValue(std::string_view field, const Json& found,
                               const std::string& expected) const {
-  Refuse(field, "found " + Shown(found) + ", expected " + expected);
+  Refuse(field, "found " + ShownJson(found) + ", expected " + expected);
 }
 
 void FieldReader::RefuseWord(std::string_view field, const std::string& found,

@@ -90,6 +90,10 @@ void ReadSwitches(FieldReader& fields, clsInterfaceRangeList& list) {
   list.let_RangePrefix(fields.Text("RangePrefix").value_or(""));
   list.let_BlankRangeIsThere(fields.Boolean("BlankRangeIsThere").value_or(false));
   list.let_ValidateDecimalPlaces(fields.Boolean("ValidateDecimalPlaces").value_or(false));
+  list.let_StripSpacesOnDownload(fields.Boolean("StripSpacesOnDownload").value_or(false));
+  list.let_LeaveBlankOnPopulate(fields.Boolean("LeaveBlankOnPopulate").value_or(false));
+  list.let_LeaveFormulaOnPopulate(fields.Boolean("LeaveFormulaOnPopulate").value_or(false));
+  list.let_DoNotCheckIsFormula(fields.Boolean("DoNotCheckIsFormula").value_or(false));
   list.let_DefaultTag(fields.Text("DefaultTag").value_or(""));
 }
 

@@ -12,6 +12,8 @@ namespace rangewerks::apps {
 
 namespace {
 
+constexpr std::size_t kLongestShown = 60;  // characters of a found value in a message
+
 /// Follows the parser through the text and refuses the second field of the same name.
 class FieldWatch {
  public:
@@ -99,6 +101,8 @@ Json ParseJson(const std::string& text) {
   } catch (const Json::parse_error& error) {
     const std::size_t offset = error.byte > 0 ? error.byte - 1 : 0;
     throw Failure(PlaceOf(text, std::min(offset, text.size())) + ": " + WordsOf(error));
+  } catch (const Json::out_of_range&) {
+    throw Failure("the whole file: it has a number that is too great for any cell");
   }
 }
 
@@ -114,6 +118,14 @@ std::string PointerPart(const std::string& name) {
     }
   }
   return part;
+}
+
+std::string ShownJson(const Json& value) {
+  if (value.is_object()) return "an object";
+  if (value.is_array()) return "a list";
+  std::string text = value.dump(-1, ' ', false, Json::error_handler_t::replace);
+  if (automation::Length(text) <= kLongestShown) return text;
+  return std::string(automation::Left(text, kLongestShown)) + "…";
 }
 
 }  // namespace rangewerks::apps

@@ -17,4 +17,7 @@ Json ParseJson(const std::string& text);
 /// A name as a part of a JSON pointer: "~" becomes "~0" and "/" becomes "~1".
 std::string PointerPart(const std::string& name);
 
+/// The value as the file has it, for a message: shortened when it is long.
+std::string ShownJson(const Json& value);
+
 }  // namespace rangewerks::apps

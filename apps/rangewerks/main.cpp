@@ -2,11 +2,15 @@
 #include <unistd.h>
 
 #include <CLI/CLI.hpp>
+#include <functional>
 #include <iostream>
 #include <map>
 
+#include "apps/rangewerks/clear_command.h"
 #include "apps/rangewerks/failure.h"
+#include "apps/rangewerks/fill_command.h"
 #include "apps/rangewerks/read_command.h"
+#include "apps/rangewerks/validate_command.h"
 #include "automation/error.h"
 #include "systems/posix/posix_system.h"
 
@@ -15,7 +19,9 @@ namespace {
 using namespace rangewerks::apps;
 
 constexpr const char* kFooter =
-    "Exit status: 0 when every cell could be read, 1 with bad cells, 2 for wrong usage or files.";
+    "rangewerks COMMAND --help tells more about one of them.\n"
+    "Exit status: 0 when all is well, 1 when the command has found something to complain of, 2 for "
+    "wrong usage or files.";
 
 constexpr const char* kReadFooter =
     "Examples:\n"
@@ -26,42 +32,149 @@ constexpr const char* kReadFooter =
     "Numbers and dates that stand in cells as text are read by the locale (LC_ALL).\n"
     "Exit status: 0 when every cell could be read, 1 with bad cells, 2 for wrong usage or files.\n";
 
-void AddRead(CLI::App& app, SheetOptions& options) {
+constexpr const char* kValidateFooter =
+    "Example:\n"
+    "  rangewerks validate journal.xlsx --interface journal.interface.json\n\n"
+    "Checks that mandatory ranges are there, that header ranges are one cell, and that detail\n"
+    "ranges are columns of one length. What the cells hold is the business of read.\n"
+    "Exit status: 0 when the layout is sound, 1 when it isn't, 2 for wrong usage or files.\n";
+
+constexpr const char* kFillFooter =
+    "Examples:\n"
+    "  rangewerks fill journal.xlsx --interface journal.interface.json --data rows.csv "
+    "--save posted.xlsx\n"
+    "  rangewerks fill journal.xlsx --interface journal.interface.json --data rows.json "
+    "--in-place\n\n"
+    "A data file gives values by the names of ranges (docs/fill-data.md). All of it is checked\n"
+    "before a cell is written. Each value is reported as written, refused by a switch of the\n"
+    "interface file, absent (its range isn't on the sheet), or differing from what the cell took.\n"
+    "Exit status: 0 when every value was written, 1 when not, 2 for wrong usage or files; then\n"
+    "nothing is saved.\n";
+
+constexpr const char* kClearFooter =
+    "Examples:\n"
+    "  rangewerks clear journal.xlsx --interface journal.interface.json --details "
+    "--save empty.xlsx\n"
+    "  rangewerks clear journal.xlsx --interface journal.interface.json --tag journal "
+    "--exclude-group batch --save next.xlsx\n\n"
+    "Contents go; formats and validation stay. A range with a formula in any of its cells is "
+    "kept.\n"
+    "Exit status: 0 when all that was chosen is cleared, 1 when a range was kept for a formula, 2\n"
+    "for wrong usage or files; then nothing is saved.\n";
+
+void AddSheetOptions(CLI::App& command, SheetOptions& options) {
   static const std::map<std::string, HostKind> hosts = {{"libreoffice", HostKind::LibreOffice},
                                                         {"workbook", HostKind::Workbook}};
   static const std::map<std::string, OutputForm> forms = {
       {"table", OutputForm::Table}, {"json", OutputForm::Json}, {"csv", OutputForm::Csv}};
-  CLI::App* read =
-      app.add_subcommand("read", "Print what a posting program would read from a workbook's sheet");
-  read->add_option("BOOK", options.book, "The workbook: xlsx, xls, ods, or a JSON workbook file")
+  command.add_option("BOOK", options.book, "The workbook: xlsx, xls, ods, or a JSON workbook file")
       ->required()
       ->type_name("FILE");
-  read->add_option(
-          "--interface", options.interfaceFile,
-          "The interface file: which ranges the sheet should have (docs/interface-file.md)")
+  command
+      .add_option("--interface", options.interfaceFile,
+                  "The interface file: which ranges the sheet should have (docs/interface-file.md)")
       ->required()
       ->type_name("FILE");
-  read->add_option("--sheet", options.sheet, "The sheet to read; default: the one in front")
+  command.add_option("--sheet", options.sheet, "The sheet to work on; default: the one in front")
       ->type_name("NAME");
-  read->add_option_function<std::string>(
+  command
+      .add_option_function<std::string>(
           "--host", [&options](const std::string& name) { options.host = hosts.at(name); },
           "The spreadsheet program: libreoffice or workbook (in memory, from a JSON workbook "
           "file); default: by the file's extension")
       ->check(CLI::IsMember(hosts))
       ->type_name("HOST");
-  read->add_option_function<std::string>(
+  command
+      .add_option_function<std::string>(
           "--output", [&options](const std::string& name) { options.output = forms.at(name); },
           "table (default), json or csv")
       ->check(CLI::IsMember(forms))
       ->type_name("FORM");
-  read->footer(kReadFooter);
 }
+
+void AddSaveOptions(CLI::App& command, SaveOptions& options) {
+  command
+      .add_option("--save", options.copy,
+                  "The file to save to, in the format that its extension tells")
+      ->type_name("COPY");
+  command.add_flag("--in-place", options.inPlace, "Replace the workbook's own file");
+  command.add_flag("--overwrite", options.overwrite, "Replace COPY when it is there already");
+}
+
+/// The commands of the program, one of which is chosen and carried out.
+class Commands {
+ public:
+  explicit Commands(CLI::App& app) {
+    Add(app, "read", "Print what a posting program would read from a sheet", kReadFooter, read_,
+        [this](Console to) { return RunRead(read_, to); });
+    Add(app, "validate", "Check the layout of a sheet's ranges", kValidateFooter, validate_,
+        [this](Console to) { return RunValidate(validate_, to); });
+    CLI::App* fill =
+        Add(app, "fill", "Write values into a sheet's ranges and save the workbook", kFillFooter,
+            fill_.sheet, [this](Console to) { return RunFill(fill_, to); });
+    fill->add_option("--data", fill_.data, "The values, .json or .csv (docs/fill-data.md)")
+        ->required()
+        ->type_name("ROWS");
+    AddSaveOptions(*fill, fill_.save);
+    CLI::App* clear =
+        Add(app, "clear", "Empty a sheet's ranges and save the workbook", kClearFooter,
+            clear_.sheet, [this](Console to) { return RunClear(clear_, to); });
+    AddClearOptions(*clear);
+    AddSaveOptions(*clear, clear_.save);
+  }
+
+  ExitStatus Run(Console console) const { return run_(console); }
+
+ private:
+  template <class RunCommand>
+  CLI::App* Add(CLI::App& app, const char* name, const char* purpose, const char* footer,
+                SheetOptions& sheet, RunCommand run) {
+    CLI::App* command = app.add_subcommand(name, purpose);
+    AddSheetOptions(*command, sheet);
+    command->footer(footer);
+    command->callback([this, run] { run_ = run; });
+    return command;
+  }
+
+  void AddClearOptions(CLI::App& clear) {
+    CLI::Option* tag =
+        clear
+            .add_option_function<std::string>(
+                "--tag", [this](const std::string& text) { clear_.choice.tag = text; },
+                "Only the ranges with this Tag")
+            ->type_name("T");
+    clear
+        .add_option("--exclude-group", clear_.choice.excludeGroups,
+                    "But not those of this Group; may be repeated")
+        ->needs(tag)
+        ->allow_extra_args(false)
+        ->type_name("G");
+    clear.add_flag("--details", clear_.choice.details, "Only the ranges declared as detail")
+        ->excludes(tag);
+  }
+
+  SheetOptions read_;
+  SheetOptions validate_;
+  FillOptions fill_;
+  ClearOptions clear_;
+  std::function<ExitStatus(Console)> run_;
+};
+
+constexpr const char* kCommandNames = "read, validate, fill and clear";
 
 /// What is wrong with the arguments; CLI11's own words for a missing command name none.
 std::string WordsOf(const CLI::ParseError& error, const CLI::App& app, int argc, char** argv) {
   if (!app.get_subcommands().empty()) return error.what();
-  return argc < 2 ? "say what to do; the one command is read"
-                  : "there is no command \"" + std::string(argv[1]) + "\"; the one command is read";
+  const std::string commands = std::string("the commands are ") + kCommandNames;
+  return argc < 2 ? "say what to do; " + commands
+                  : "there is no command \"" + std::string(argv[1]) + "\"; " + commands;
+}
+
+std::string HelpFor(const CLI::App& app) {
+  const auto chosen = app.get_subcommands();
+  return chosen.empty()
+             ? "rangewerks --help tells what each does."
+             : "rangewerks " + chosen.front()->get_name() + " --help tells how to call it.";
 }
 
 int Tell(const std::string& words) {
@@ -70,21 +183,21 @@ int Tell(const std::string& words) {
 }
 
 int Run(int argc, char** argv) {
-  CLI::App app("Finds declared cell ranges on a spreadsheet and reads them by their types.",
-               "rangewerks");
-  SheetOptions options;
+  CLI::App app(
+      "Finds declared cell ranges on a spreadsheet, reads them by their types, and writes back.",
+      "rangewerks");
   app.set_version_flag("--version", "rangewerks " RANGEWERKS_VERSION);
   app.require_subcommand(1);
   app.footer(kFooter);
-  AddRead(app, options);
+  Commands commands(app);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) return app.exit(error);
-    return Tell(WordsOf(error, app, argc, argv) + "\nrangewerks read --help tells how to call it.");
+    return Tell(WordsOf(error, app, argc, argv) + "\n" + HelpFor(app));
   }
   rangewerks::automation::Locale::SetCurrent(rangewerks::systems::PosixSystem().CurrentLocale());
-  return RunRead(options, {std::cout, std::cerr, isatty(STDERR_FILENO) == 1});
+  return commands.Run({std::cout, std::cerr, isatty(STDERR_FILENO) == 1});
 }
 
 }  // namespace

@@ -1,19 +1,9 @@
 #include "apps/rangewerks/output.h"
 #include "apps/rangewerks/output_parts.h"
-#include "automation/conversions.h"
 
 namespace rangewerks::apps {
 
 namespace {
-
-Json JsonValue(const automation::Variant& value) {
-  if (const auto* number = value.TryGet<double>()) return *number;
-  if (const auto* number = value.TryGet<std::int16_t>()) return *number;
-  if (const auto* yes = value.TryGet<bool>()) return *yes;
-  if (const auto* date = value.TryGet<automation::Date>()) return automation::IsoDate(*date);
-  if (const auto* text = value.TryGet<std::string>()) return *text;
-  return nullptr;
-}
 
 Json JsonRead(const ReadValue& read) {
   return {{"found", read.found}, {"value", JsonValue(read.value)}};

@@ -1,6 +1,7 @@
 #include "apps/rangewerks/output_parts.h"
 
 #include "apps/rangewerks/text_table.h"
+#include "automation/conversions.h"
 
 namespace rangewerks::apps {
 
@@ -39,6 +40,15 @@ Json JsonRanges(const SheetRanges& found) {
 }
 
 Json TextOrNull(const std::string& text) { return text.empty() ? Json() : Json(text); }
+
+Json JsonValue(const automation::Variant& value) {
+  if (const auto* number = value.TryGet<double>()) return *number;
+  if (const auto* number = value.TryGet<std::int16_t>()) return *number;
+  if (const auto* yes = value.TryGet<bool>()) return *yes;
+  if (const auto* date = value.TryGet<automation::Date>()) return automation::IsoDate(*date);
+  if (const auto* text = value.TryGet<std::string>()) return *text;
+  return nullptr;
+}
 
 std::string JsonText(const Json& document) {
   return document.dump(2, ' ', false, Json::error_handler_t::replace) + "\n";

@@ -20,6 +20,8 @@ std::string Counted(std::size_t count, const char* one, const char* many);
 
 /// An object with a field for each range.
 Json JsonRanges(const SheetRanges& found);
+/// A number, a text, true or false as they are, a date as ISO 8601; null for everything else.
+Json JsonValue(const automation::Variant& value);
 /// Null for an empty text.
 Json TextOrNull(const std::string& text);
 /// The whole text of a document, ending in a line feed.

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "apps/rangewerks/typed_read.h"
 #include "apps/rangewerks/value_text.h"
 #include "automation/conversions.h"
 #include "automation/error.h"
@@ -76,7 +77,7 @@ class Reading {
     ReadValue answer;
     try {
       Variant value;
-      answer.found = ReadTyped(range, row, value);
+      answer.found = ReadTyped(list_, range.name, range.type, row, value);
       if (answer.found) answer.value = std::move(value);
     } catch (const Error& error) {
       RequireLivingHost();
@@ -84,31 +85,6 @@ class Reading {
       Note(range, row, error);
     }
     return answer;
-  }
-
-  bool ReadTyped(const FoundRange& range, std::int32_t row, Variant& value) {
-    switch (range.type) {
-      case rdtDouble:
-        return ReadInto<double>(&clsInterfaceRangeList::GetValRange, range, row, value);
-      case rdtDate:
-        return ReadInto<automation::Date>(&clsInterfaceRangeList::GetDateRange, range, row, value);
-      case rdtInteger:
-        return ReadInto<std::int16_t>(&clsInterfaceRangeList::GetIntRange, range, row, value);
-      case rdtYesNo:
-        return ReadInto<bool>(&clsInterfaceRangeList::GetYNRange, range, row, value);
-      case rdtString:
-        break;
-    }
-    return ReadInto<std::string>(&clsInterfaceRangeList::GetStrRange, range, row, value);
-  }
-
-  template <class Value>
-  bool ReadInto(bool (clsInterfaceRangeList::*read)(const std::string&, Value&, std::int32_t),
-                const FoundRange& range, std::int32_t row, Variant& value) {
-    Value typed{};
-    const bool found = (list_.*read)(range.name, typed, row);
-    value = std::move(typed);
-    return found;
   }
 
   /// A spreadsheet program that has ended fails every read; that is no bad cell. Raises its error.

@@ -9,13 +9,13 @@ using namespace std::chrono_literals;
 Progress::Progress(std::ostream& output, bool isTerminal, Clock clock)
     : output_(output), isTerminal_(isTerminal), clock_(std::move(clock)), next_(clock_() + 1s) {}
 
-void Progress::Show(std::int32_t row, std::int32_t rows) {
+void Progress::Show(std::int32_t done, std::int32_t all, const char* what) {
   if (!isTerminal_) return;
   const auto now = clock_();
   if (now < next_) return;
   next_ = now + 100ms;
   isShown_ = true;
-  output_ << "\rrangewerks: row " << row << " of " << rows << "\x1b[K" << std::flush;
+  output_ << "\rrangewerks: " << what << ' ' << done << " of " << all << "\x1b[K" << std::flush;
 }
 
 void Progress::Clear() {

@@ -19,7 +19,8 @@ class Progress {
   Progress& operator=(const Progress&) = delete;
   ~Progress() { Clear(); }
 
-  void Show(std::int32_t row, std::int32_t rows);
+  /// `what` is the word for what is counted.
+  void Show(std::int32_t done, std::int32_t all, const char* what = "row");
   /// Takes the line away.
   void Clear();
 

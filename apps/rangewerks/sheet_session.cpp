@@ -19,16 +19,6 @@ using automation::Variant;
 
 constexpr std::size_t kMostNamed = 20;  // ranges or sheets that one message names
 
-void RequireFile(const std::string& path) {
-  std::error_code ignored;
-  if (std::filesystem::is_directory(path, ignored)) {
-    throw Failure(path + ": this is a folder; give the workbook file itself");
-  }
-  if (!std::filesystem::exists(path, ignored)) {
-    throw Failure(path + ": there is no such workbook; check the path");
-  }
-}
-
 Object OpenBook(Spreadsheet& program, const SheetOptions& options, Access access) {
   const HostKind kind = options.Host();
   try {
@@ -90,6 +80,16 @@ SheetSession::SheetSession(const SheetOptions& options, Access access)
     sheet_ = ChosenSheet(application, options);
     Locale::SetCurrent(InLineWith(application, Locale::Current()));
   });
+}
+
+void RequireFile(const std::string& path) {
+  std::error_code ignored;
+  if (std::filesystem::is_directory(path, ignored)) {
+    throw Failure(path + ": this is a folder; give the workbook file itself");
+  }
+  if (!std::filesystem::exists(path, ignored)) {
+    throw Failure(path + ": there is no such workbook; check the path");
+  }
 }
 
 void RequireAnyRange(const std::string& book, const SheetRanges& found,

@@ -39,6 +39,9 @@ auto WithHost(const std::string& doing, const Step& step) {
   }
 }
 
+/// Raises Failure when there is no such workbook file.
+void RequireFile(const std::string& path);
+
 /// Raises Failure, with the workbook names that were looked for, when not one range was found: an
 /// empty result would look like an empty posting.
 void RequireAnyRange(const std::string& book, const SheetRanges& found,
