@@ -27,7 +27,7 @@ class Clearing : public SheetFixture {
     return Declare(name, indicator);
   }
   static Object Values(std::vector<Variant> values) {
-    return Object(std::make_shared<ValueList>(std::move(values)));
+    return {std::make_shared<ValueList>(std::move(values))};
   }
   bool IsClear(const std::string& column) const {
     for (const char* row : {"1", "2", "3"}) {

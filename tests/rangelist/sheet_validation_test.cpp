@@ -263,9 +263,7 @@ class ShortDates : public SheetFixture {
     Locale::SetCurrent(british);
     host.SetInternational(excel::xlDateOrder, 1);
   }
-  ~ShortDates() override { Locale::SetCurrent({}); }
-  ShortDates(const ShortDates&) = delete;
-  ShortDates& operator=(const ShortDates&) = delete;
+  void TearDown() override { Locale::SetCurrent({}); }
 
   /// What is written to a cell that holds `content`; nothing when nothing is.
   std::vector<std::string> WrittenFor(const Variant& content) {

@@ -265,7 +265,8 @@ TEST_F(Writes, AFieldKeepsItsKindAndTextsThatAreNumbersOrDatesTheirBlanks) {
       {" x ", "Range.Value let \"x\""},
   };
   for (const auto& [field, line] : table) {
-    EXPECT_THAT(CallsOf([&] { PopulateFromField(field); }).back(), ::testing::StartsWith(line));
+    EXPECT_THAT(CallsOf([&, &value = field] { PopulateFromField(value); }).back(),
+                ::testing::StartsWith(line));
   }
 }
 
