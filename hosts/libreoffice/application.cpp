@@ -19,7 +19,7 @@ constexpr std::int32_t kTimeSeparator = 18;
 constexpr std::int32_t kCurrencySymbol = 25;
 
 std::shared_ptr<Range> RangeArgument(const Variant& value) {
-  const auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
+  auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
   if (!range) Fail("Intersect takes ranges, not a value of the type " + value.TypeName());
   return range;
 }

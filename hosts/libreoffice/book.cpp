@@ -20,9 +20,9 @@ using automation::EqualText;
 
 }  // namespace
 
-Book::Book(Session* session, Reference<css::frame::XModel> model, std::string path)
+Book::Book(Session* session, const Reference<css::frame::XModel>& model, std::string path)
     : session_(session),
-      model_(std::move(model)),
+      model_(model),
       path_(std::move(path)),
       sheets_(As<css::sheet::XSpreadsheetDocument>(model_)->getSheets()),
       inOrder_(As<css::container::XIndexAccess>(sheets_)),

@@ -26,7 +26,7 @@ class Session;
 class Book {
  public:
   /// `path` is empty for a workbook that has no file.
-  Book(Session* session, Reference<css::frame::XModel> model, std::string path);
+  Book(Session* session, const Reference<css::frame::XModel>& model, std::string path);
 
   Session& OfSession() const noexcept { return *session_; }
   const Reference<css::frame::XModel>& Model() const noexcept { return model_; }
@@ -78,7 +78,7 @@ using BookPointer = std::shared_ptr<Book>;
 /// which side of a bridge it stands.
 class Session : public std::enable_shared_from_this<Session> {
  public:
-  explicit Session(Reference<css::uno::XComponentContext> context);
+  explicit Session(const Reference<css::uno::XComponentContext>& context);
 
   const Reference<css::uno::XComponentContext>& Context() const noexcept { return context_; }
   const Reference<css::frame::XDesktop2>& Desktop() const noexcept { return desktop_; }

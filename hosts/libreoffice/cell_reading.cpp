@@ -137,7 +137,7 @@ void ApplyFormat(const FormattedArea& part, const Area& area, const BlockContent
   for (std::int32_t row = part.area.row; row <= part.area.LastRow(); ++row) {
     for (std::int32_t column = part.area.column; column <= part.area.LastColumn(); ++column) {
       Variant& value = values.At(row - area.row + 1, column - area.column + 1);
-      const double* number = value.TryGet<double>();
+      const auto* number = value.TryGet<double>();
       if (number == nullptr) continue;
       FormatKind shown = kind;
       if (kind == FormatKind::General) {

@@ -112,12 +112,10 @@ class Writing {
         placed.entry = EntryOf(ElementAt(value, row, column, kind), kind, locale, firstDay);
         const bool isNumber =
             placed.entry.kind == Kind::Number || placed.entry.kind == Kind::Formula;
-        if (kind == FormatKind::Boolean && isNumber) {
-          // The office marks a cell that has shown a boolean; the next number would show as one.
-          placed.newFormat = formats.KeyOf(placed.entry.format);
-        } else if (part.key == 0 && !placed.entry.format.empty()) {
-          placed.newFormat = formats.KeyOf(placed.entry.format);
-        }
+        // The office marks a cell that has shown a boolean; the next number would show as one.
+        const bool endsBoolean = kind == FormatKind::Boolean && isNumber;
+        const bool bringsFormat = part.key == 0 && !placed.entry.format.empty();
+        if (endsBoolean || bringsFormat) placed.newFormat = formats.KeyOf(placed.entry.format);
       }
     }
   }

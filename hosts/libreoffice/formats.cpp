@@ -60,9 +60,9 @@ bool IsUniform(const Reference<css::uno::XInterface>& block) {
 
 }  // namespace
 
-Formats::Formats(Reference<css::frame::XModel> model,
-                 Reference<css::uno::XComponentContext> context)
-    : model_(std::move(model)), context_(std::move(context)) {}
+Formats::Formats(const Reference<css::frame::XModel>& model,
+                 const Reference<css::uno::XComponentContext>& context)
+    : model_(model), context_(context) {}
 
 const Reference<css::util::XNumberFormats>& Formats::All() {
   if (!all_.is()) all_ = As<css::util::XNumberFormatsSupplier>(model_)->getNumberFormats();

@@ -27,7 +27,8 @@ enum class FormatKind {
 /// asked once is kept.
 class Formats {
  public:
-  Formats(Reference<css::frame::XModel> model, Reference<css::uno::XComponentContext> context);
+  Formats(const Reference<css::frame::XModel>& model,
+          const Reference<css::uno::XComponentContext>& context);
 
   FormatKind KindOf(std::int32_t key);
   /// What a shown text looks like when it is read back: how a formula without a format of its own

@@ -17,7 +17,7 @@ using Tokens = Sequence<css::sheet::FormulaToken>;
 /// Translates between the two notations of one document. Formulas are without their "=".
 class Formulas {
  public:
-  explicit Formulas(Reference<css::frame::XModel> model) : model_(std::move(model)) {}
+  explicit Formulas(const Reference<css::frame::XModel>& model) : model_(model) {}
 
   /// Reads a formula of the cell at `place`. Raises 1004 when it isn't one that the office
   /// understands as it is meant: an error value inside it, or a sheet that doesn't exist.

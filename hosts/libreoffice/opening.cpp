@@ -144,6 +144,12 @@ Reference<css::lang::XComponent> LoadFile(Session& session, const std::string& p
   return component;
 }
 
+void RequireSheetName(const std::string& name) {
+  if (const std::string fault = workbook::FaultOfSheetName(name); !fault.empty()) {
+    Fail("A sheet can't be called \"" + name + "\": " + fault);
+  }
+}
+
 BookPointer FindOpen(Session& session, const fs::path& path) {
   for (const BookPointer& book : session.Books()) {
     if (book->Path() == path) return book;
@@ -164,7 +170,7 @@ OUString UrlOf(const std::string& path) {
 BookPointer OpenDocument(Session& session, const std::string& given, OpenOptions options) {
   RequireFile(given);
   const std::string path = fs::canonical(given).string();
-  if (const BookPointer open = FindOpen(session, path)) {
+  if (BookPointer open = FindOpen(session, path)) {
     session.Activate(open);
     return open;
   }
@@ -182,14 +188,10 @@ BookPointer OpenDocument(Session& session, const std::string& given, OpenOptions
 
 BookPointer NewDocument(Session& session, const std::vector<std::string>& sheets) {
   if (sheets.empty()) Fail("A workbook can't be made without a sheet.");
-  for (const std::string& name : sheets) {
-    if (const std::string fault = workbook::FaultOfSheetName(name); !fault.empty()) {
-      Fail("A sheet can't be called \"" + name + "\": " + fault);
-    }
-  }
+  for (const std::string& name : sheets) RequireSheetName(name);
   const auto component =
       Load(session, ToUno("private:factory/scalc"), {Option("Hidden", Any(true))});
-  const BookPointer book = session.Add(As<css::frame::XModel>(component), {});
+  BookPointer book = session.Add(As<css::frame::XModel>(component), {});
   while (book->SheetCount() > 1) book->Remove(book->SheetAt(book->SheetCount()));
   book->SheetAt(1)->Rename(sheets.front());
   for (std::size_t i = 1; i < sheets.size(); ++i) {

@@ -6,7 +6,6 @@
 namespace rangewerks::hosts::libreoffice {
 namespace {
 
-using automation::Argument;
 using automation::CallKind;
 using automation::Error;
 using automation::ErrorNumber;

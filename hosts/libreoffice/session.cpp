@@ -7,8 +7,8 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-Session::Session(Reference<css::uno::XComponentContext> context)
-    : context_(std::move(context)), desktop_(css::frame::Desktop::create(context_)) {}
+Session::Session(const Reference<css::uno::XComponentContext>& context)
+    : context_(context), desktop_(css::frame::Desktop::create(context_)) {}
 
 const BookPointer& Session::ActiveBook() const {
   if (!active_) Fail("No workbook is open");
@@ -23,9 +23,11 @@ BookPointer Session::Add(const Reference<css::frame::XModel>& model, const std::
 
 void Session::Close(const BookPointer& book) {
   book->Close();
-  const BookPointer kept = book;
-  std::erase(books_, kept);
-  if (active_ == kept) active_ = books_.empty() ? nullptr : books_.back();
+  const auto place = std::find(books_.begin(), books_.end(), book);
+  if (place == books_.end()) return;
+  const BookPointer closed = std::move(*place);  // `book` may be the very entry that goes
+  books_.erase(place);
+  if (active_ == closed) active_ = books_.empty() ? nullptr : books_.back();
 }
 
 const automation::Locale& Session::OfficeLocale() {

@@ -9,8 +9,8 @@ Area AreaOf(const css::table::CellRangeAddress& address) {
           address.EndColumn - address.StartColumn + 1};
 }
 
-Sheet::Sheet(Book* book, Reference<css::sheet::XSpreadsheet> cells)
-    : book_(book), cells_(std::move(cells)) {}
+Sheet::Sheet(Book* book, const Reference<css::sheet::XSpreadsheet>& cells)
+    : book_(book), cells_(cells) {}
 
 Reference<css::table::XCell> Sheet::Cell(std::int32_t row, std::int32_t column) const {
   return cells_->getCellByPosition(column - 1, row - 1);

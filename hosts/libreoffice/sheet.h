@@ -25,7 +25,7 @@ class Book;
 /// needed and kept; facts that a user can change are never kept.
 class Sheet {
  public:
-  Sheet(Book* book, Reference<css::sheet::XSpreadsheet> cells);
+  Sheet(Book* book, const Reference<css::sheet::XSpreadsheet>& cells);
 
   Book& OfBook() const noexcept { return *book_; }
   const Reference<css::sheet::XSpreadsheet>& Cells() const noexcept { return cells_; }

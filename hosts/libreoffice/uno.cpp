@@ -8,7 +8,7 @@ std::string ToUtf8(const OUString& text) {
 }
 
 OUString ToUno(std::string_view text) {
-  return OUString(text.data(), static_cast<sal_Int32>(text.size()), RTL_TEXTENCODING_UTF8);
+  return {text.data(), static_cast<sal_Int32>(text.size()), RTL_TEXTENCODING_UTF8};
 }
 
 }  // namespace rangewerks::hosts::libreoffice

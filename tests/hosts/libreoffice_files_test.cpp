@@ -54,7 +54,7 @@ class LibreOfficeFiles : public testing::Test {
 
   /// A workbook with a value of each kind in A1 to A5 of its only sheet, and a name.
   Object MakeBook() {
-    const Object book = SharedOffice().NewWorkbook({"Ledger"});
+    Object book = SharedOffice().NewWorkbook({"Ledger"});
     const Object sheet = GetObject(book, "ActiveSheet");
     Let(GetObject(sheet, "Range", {"A1"}), "Value", 12.5);
     Let(GetObject(sheet, "Range", {"A2"}), "Value", "Zo\xC3\xAB");
