@@ -32,7 +32,9 @@ std::string WordsFor(const FilledCell& cell) {
   const std::string holds = OneLine(ValueText(cell.holds), kWidestCell);
   switch (cell.outcome) {
     case CellOutcome::Differs:
-      return "differs: the cell took it as " + holds;
+      return "differs: " + (cell.complaint.empty()
+                                ? "the cell took it as " + (holds.empty() ? "nothing" : holds)
+                                : OneLine(cell.complaint, kWidestWords));
     case CellOutcome::Refused:
       return "refused by a switch: the cell keeps " + (holds.empty() ? "its content" : holds);
     case CellOutcome::Absent:

@@ -32,7 +32,7 @@ class Writing {
   }
 
   FilledCell Write(const GivenValue& given) {
-    FilledCell cell{given.range, given.row, {}, given.value, CellOutcome::Absent, {}};
+    FilledCell cell{given.range, given.row, {}, given.value, CellOutcome::Absent, {}, {}};
     const FoundRange& range = *ranges_.at(given.range);
     if (!range.exists) return cell;
     const std::int32_t line = std::max(given.row, std::int32_t{1});
@@ -41,9 +41,8 @@ class Writing {
     const excel::Range place = list_.GetRange(range.name).get_Cells(line, 1);
     cell.address = ShownAddress(place, found_.sheet);
     cell.holds = ContentOf(place);
-    cell.outcome = !takes                                ? CellOutcome::Refused
-                   : ReadsBack(range, given.value, line) ? CellOutcome::Written
-                                                         : CellOutcome::Differs;
+    cell.outcome = CellOutcome::Refused;
+    if (takes) cell.outcome = OutcomeOf(range, line, cell);
     return cell;
   }
 
@@ -83,15 +82,18 @@ class Writing {
 
   /// Whether the posting program would read the value that was given. Spreadsheets take texts as
   /// typed, so that "007" becomes 7 unless the cell is formatted as text.
-  bool ReadsBack(const FoundRange& range, const Variant& value, std::int32_t line) const {
+  CellOutcome OutcomeOf(const FoundRange& range, std::int32_t line, FilledCell& cell) const {
     Variant read;
     try {
       ReadTyped(list_, range.name, range.type, line, read);
-    } catch (const Error&) {
-      return false;
+    } catch (const Error& error) {
+      cell.complaint = error.Description();
+      return CellOutcome::Differs;
     }
-    const auto* text = value.TryGet<std::string>();
-    return text != nullptr ? Held<std::string>(read) == automation::Trim(*text) : read == value;
+    const auto* text = cell.value.TryGet<std::string>();
+    const bool same =
+        text != nullptr ? Held<std::string>(read) == automation::Trim(*text) : read == cell.value;
+    return same ? CellOutcome::Written : CellOutcome::Differs;
   }
 
   static Variant ContentOf(const excel::Range& cell) {

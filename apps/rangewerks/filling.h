@@ -26,6 +26,7 @@ struct FilledCell {
   automation::Variant value;
   CellOutcome outcome = CellOutcome::Absent;
   automation::Variant holds;  ///< what the cell holds in the end, an error as its text
+  std::string complaint;      ///< why it can't be read back at all; empty otherwise
 };
 
 struct FillReport {

@@ -22,8 +22,8 @@ HostKind HostFor(const std::string& path);
 
 enum class Access {
   Read,   ///< no lock is left on the file, and one that somebody else has open is opened all the
-          ///< same
-  Write,  ///< cells can be changed; a file that somebody else has open is refused
+          ///< same; cells can be changed, but the workbook saved only as a copy
+  Write,  ///< the file is locked meanwhile, and one that somebody else has open is refused
 };
 
 /// The extensions of the files that a host writes, such as ".ods".
