@@ -115,6 +115,22 @@ std::unique_ptr<automation::Enumerator> colExInputRangeList::Enumerate() {
       std::vector<Variant>(items.begin(), items.end()));
 }
 
+const std::vector<automation::Parameter>& colExInputRangeList::AddParameters() {
+  static const std::vector<automation::Parameter> parameters = {{"RangeName"},
+                                                                {"DetailIndicator"},
+                                                                {"RangeDataType"},
+                                                                {"IsMandatory", false},
+                                                                {"RangeExists", false},
+                                                                {"Description", ""},
+                                                                {"DataLength", std::int16_t{0}},
+                                                                {"Value", std::int16_t{0}},
+                                                                {"sKey", ""},
+                                                                {"IsBrowseable", false},
+                                                                {"BrowseColumn", ""},
+                                                                {"Group", ""}};
+  return parameters;
+}
+
 const MemberTable& colExInputRangeList::Members() const {
   using C = colExInputRangeList;
   using AddMember = Record (C::*)(const std::string&, eRangeHeadDetailInd, eRangeDataType, bool,
@@ -123,19 +139,7 @@ const MemberTable& colExInputRangeList::Members() const {
   static const MemberTable table =
       MemberTable::For<C>("colExInputRangeList")
           .Method(
-              1, "Add", static_cast<AddMember>(&C::Add),
-              {{"RangeName"},
-               {"DetailIndicator"},
-               {"RangeDataType"},
-               {"IsMandatory", false},
-               {"RangeExists", false},
-               {"Description", ""},
-               {"DataLength", std::int16_t{0}},
-               {"Value", std::int16_t{0}},
-               {"sKey", ""},
-               {"IsBrowseable", false},
-               {"BrowseColumn", ""},
-               {"Group", ""}},
+              1, "Add", static_cast<AddMember>(&C::Add), AddParameters(),
               "Makes a range record and adds it at the end, under its name unless sKey is given.")
           .Get(0, "Item", &C::Item, {{"vntIndexKey"}}, "The record at a position or with a key.")
           .Get(2, "Count", &C::Count, "The number of records.")

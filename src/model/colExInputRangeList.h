@@ -6,6 +6,7 @@
 #include <memory>
 #include <string>
 #include <string_view>
+#include <vector>
 
 #include "automation/collection.h"
 #include "automation/member_table.h"
@@ -50,6 +51,9 @@ class colExInputRangeList final : public automation::AutomationClass {
   /// Adds the records of another list, the same objects, under their names. A name that is already
   /// there is passed over, or with `bOverWrite` replaced, the new record standing last.
   void Append(const std::shared_ptr<colExInputRangeList>& oISESAppend, bool bOverWrite = false);
+
+  /// The names and defaults of Add's arguments, which the range list's own Add shares.
+  static const std::vector<automation::Parameter>& AddParameters();
 
   /// The record with that key, or null.
   Record TryItem(std::string_view key) const {

@@ -107,19 +107,7 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                   "Clears the detail ranges that have no formula.")
           .Method(45, "IsFormula", &C::IsFormula, {{"sRangeName"}},
                   "Whether any cell of a range holds a formula.")
-          .Method(46, "Add", static_cast<AddMember>(&C::Add),
-                  {{"RangeName"},
-                   {"DetailIndicator"},
-                   {"RangeDataType"},
-                   {"IsMandatory", false},
-                   {"RangeExists", false},
-                   {"Description", ""},
-                   {"DataLength", std::int16_t{0}},
-                   {"Value", std::int16_t{0}},
-                   {"sKey", ""},
-                   {"IsBrowseable", false},
-                   {"BrowseColumn", ""},
-                   {"Group", ""}},
+          .Method(46, "Add", static_cast<AddMember>(&C::Add), colExInputRangeList::AddParameters(),
                   "Declares a range.")
           .Method(47, "AddCls", &C::AddCls, {{"oExRngInput"}},
                   "Declares a range like the record given.")
