@@ -46,7 +46,7 @@ class Collection {
     return found == byKey_.end() ? nullptr : &found->second;
   }
   /// The entry at a position (a number) or with a key (a text). Raises 9 for a position out of
-  /// range, 5 for an unknown key, 13 for a value that is neither.
+  /// range, 5 for an unknown key, and as ToLong does for a value that is neither.
   const Item& At(const Variant& indexKey) const {
     if (const auto* key = indexKey.TryGet<std::string>()) {
       const Item* item = TryAt(*key);
