@@ -164,6 +164,8 @@ std::vector<Column> HeaderOf(const JournalPlan& plan, Pence total) {
   if (!plan.departmentByLine) {
     header.push_back(HeaderCell("department", "Department", "@", "100"));
   }
+  // Filled in by whoever posts the journal, as is the status of each line.
+  header.push_back(HeaderCell("posting_reference", "Posted as", "@", {}));
   return header;
 }
 
@@ -197,6 +199,8 @@ std::vector<Column> DetailOf(const JournalPlan& plan, const std::vector<Line>& l
   }
   detail.push_back(DetailColumn("details", "Details", "@", lines,
                                 [](const Line& line, Row) -> Variant { return line.details; }));
+  detail.push_back(
+      DetailColumn("status", "Status", "@", lines, [](const Line&, Row) { return Variant(); }));
   return detail;
 }
 
