@@ -27,7 +27,7 @@ ExitStatus RunClear(const ClearOptions& options, Console console) {
   RequireDeclared(options.choice, *list);
   RequireFile(options.sheet.book);
   const SaveTarget target(options.save, options.sheet);
-  SheetSession session(options.sheet, options.save.inPlace ? Access::Write : Access::Read);
+  SheetSession session(options.sheet, Access::Write);
   const ClearReport report = WithHost(options.sheet.book + ": clearing stopped", [&] {
     ClearReport cleared = Clear(*list, session.Sheet(), options.choice);
     RequireAnyRange(options.sheet.book, cleared.found, *list);

@@ -54,6 +54,16 @@ void ClearChosen(clsInterfaceRangeList& list, const ClearChoice& choice) {
   list.ClearRangesForTag(*choice.tag, std::make_shared<automation::ValueList>(groups));
 }
 
+/// A spreadsheet program may pass over a change without a word, as for a protected sheet.
+void RequireEmpty(const clsInterfaceRangeList& list, const FoundRange& range) {
+  const excel::Range area = list.GetRange(range.name);
+  for (std::int32_t row = 1; row <= range.rows; ++row) {
+    if (area.get_Item(row).get_Value().IsEmpty()) continue;
+    throw Failure("range " + range.name + " (" + range.address +
+                  ") still has content after it was cleared; is the sheet protected?");
+  }
+}
+
 }  // namespace
 
 bool ClearReport::KeptAny() const {
@@ -76,6 +86,11 @@ ClearReport Clear(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
     report.outcomes.push_back(OutcomeFor(list, *list.Item(index), choice));
   }
   ClearChosen(list, choice);
+  for (std::size_t index = 0; index < report.outcomes.size(); ++index) {
+    if (report.outcomes[index] == RangeOutcome::Cleared) {
+      RequireEmpty(list, report.found.ranges[index]);
+    }
+  }
   return report;
 }
 

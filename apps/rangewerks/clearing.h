@@ -38,7 +38,8 @@ void RequireDeclared(const ClearChoice& choice, const clsInterfaceRangeList& lis
 
 /// Locates the ranges on `sheet` and clears those chosen; contents go, formats and validation stay.
 /// A range with a formula stays as it is, unless all are cleared and DoNotCheckIsFormula is set.
-/// Raises the library's errors; ranges before the failing one are cleared.
+/// Raises the library's errors, ranges before the failing one being cleared, and Failure for a
+/// range that has content all the same.
 ClearReport Clear(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
                   const ClearChoice& choice);
 

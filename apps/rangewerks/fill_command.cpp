@@ -28,7 +28,7 @@ ExitStatus RunFill(const FillOptions& options, Console console) {
   RequireFile(options.sheet.book);
   std::vector<GivenValue> values = ReadFillFile(options.data, *list);
   const SaveTarget target(options.save, options.sheet);
-  SheetSession session(options.sheet, options.save.inPlace ? Access::Write : Access::Read);
+  SheetSession session(options.sheet, Access::Write);
   const FillReport report = WithHost(options.sheet.book + ": filling stopped", [&] {
     const SheetRanges found = LocateRanges(*list, session.Sheet());
     RequireAnyRange(options.sheet.book, found, *list);

@@ -20,10 +20,10 @@ enum class HostKind {
 /// workbook in memory.
 HostKind HostFor(const std::string& path);
 
+/// A file that somebody else has open is refused in both cases.
 enum class Access {
-  Read,   ///< no lock is left on the file, and one that somebody else has open is opened all the
-          ///< same; cells can be changed, but the workbook saved only as a copy
-  Write,  ///< the file is locked meanwhile, and one that somebody else has open is refused
+  Read,   ///< leaves no lock on the file; the program may pass over changes without a word
+  Write,  ///< cells can be changed; the file is locked meanwhile
 };
 
 /// The extensions of the files that a host writes, such as ".ods".

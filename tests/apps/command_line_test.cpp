@@ -261,13 +261,17 @@ TEST_F(CommandLine, ReadsPlainNamesWithAPrefixInLibreOffice) {
   EXPECT_EQ(read["ranges"]["remarks"]["exists"], false);
 }
 
-TEST_F(CommandLine, ReadsAWorkbookThatSomebodyElseHasOpen) {
+TEST_F(CommandLine, RefusesAWorkbookThatSomebodyElseHasOpen) {
   const std::string orders = RANGEWERKS_EXAMPLES "/orders.ods";
   std::filesystem::copy_file(orders, File("orders.ods"));
   Write(".~lock.orders.ods#", ",somebody,elsewhere,21.11.2024 09:00,file:///elsewhere;");
   const Outcome outcome =
       Run("read orders.ods --interface " RANGEWERKS_EXAMPLES "/orders.interface.json");
-  EXPECT_EQ(outcome.status, 1) << outcome.messages;
+  EXPECT_EQ(outcome.status, 2);
+  EXPECT_EQ(outcome.output, "");
+  EXPECT_NE(outcome.messages.find("orders.ods is locked: somebody on elsewhere has it open."),
+            std::string::npos)
+      << outcome.messages;
   EXPECT_EQ(Text(".~lock.orders.ods#"), ",somebody,elsewhere,21.11.2024 09:00,file:///elsewhere;");
 }
 
