@@ -1,6 +1,7 @@
 #include "hosts/libreoffice/book.h"
 
 #include <algorithm>
+#include <com/sun/star/frame/XStorable.hpp>
 #include <com/sun/star/frame/XTitle.hpp>
 #include <com/sun/star/sheet/XSpreadsheetDocument.hpp>
 #include <com/sun/star/sheet/XSpreadsheetView.hpp>
@@ -24,6 +25,7 @@ Book::Book(Session* session, const Reference<css::frame::XModel>& model, std::st
     : session_(session),
       model_(model),
       path_(std::move(path)),
+      isReadOnly_(As<css::frame::XStorable>(model_)->isReadonly()),
       sheets_(As<css::sheet::XSpreadsheetDocument>(model_)->getSheets()),
       inOrder_(As<css::container::XIndexAccess>(sheets_)),
       formats_(model_, session->Context()),

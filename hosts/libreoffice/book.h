@@ -52,6 +52,10 @@ class Book {
   /// Days from 30 December 1899 to the day that this document counts from.
   double FirstDay();
 
+  /// Whether the file was opened without leave to change it; the office then drops some changes in
+  /// silence and carries others out.
+  bool IsReadOnly() const noexcept { return isReadOnly_; }
+
   void Close();
   bool closed = false;
   std::weak_ptr<automation::Dispatch> face;
@@ -62,6 +66,7 @@ class Book {
   Session* session_;
   Reference<css::frame::XModel> model_;
   std::string path_;
+  bool isReadOnly_;
   Reference<css::sheet::XSpreadsheets> sheets_;
   Reference<css::container::XIndexAccess> inOrder_;
   Reference<css::sheet::XNamedRanges> names_;

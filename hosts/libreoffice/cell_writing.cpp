@@ -219,6 +219,9 @@ class Writing {
 }  // namespace
 
 void RequireWritable(Sheet& sheet, const Area& area) {
+  if (sheet.OfBook().IsReadOnly()) {
+    Fail(Place(sheet, area) + " can't be changed: the workbook was opened for reading only");
+  }
   if (sheet.IsProtected() && IsAnyLocked(sheet.Block(area))) {
     Fail(Place(sheet, area) + " can't be changed: the sheet is protected and the cells are locked");
   }

@@ -39,6 +39,8 @@ bool SnapshotEnumerator::Next(Variant& element) {
 
 std::unique_ptr<Enumerator> Dispatch::Enumerate() { throw Error(ErrorNumber::NotACollection); }
 
+// Overrides keep the handler, so it is taken by value.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
 Connection Dispatch::Connect(EventHandler /*handler*/) { throw Error(ErrorNumber::NoSuchEvents); }
 
 struct EventSource::Handlers {

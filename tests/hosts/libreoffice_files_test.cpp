@@ -1,9 +1,11 @@
 // Opening and saving: what comes back, and what is refused with which words.
 #include <gmock/gmock.h>
+#include <functional>
 
 #include "hosts/libreoffice_documents.h"
 #include "hosts/libreoffice_under_test.h"
 #include "hosts/temporary_folder.h"
+#include "support/error_of.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -174,6 +176,23 @@ TEST_F(LibreOfficeFiles, ALockedFileIsRefusedWithItsOwner) {
                                lock + " if nobody has.");
   const Object book = SharedOffice().Open(path, {.evenIfLocked = true});
   EXPECT_EQ(GetText(book, "FullName"), path);
+}
+
+TEST_F(LibreOfficeFiles, AWorkbookOpenedForReadingRefusesEveryChangeOfItsCells) {
+  const Object book = SharedOffice().Open(Saved("book.xlsx"), {.readOnly = true});
+  const Object cell = GetObject(GetObject(book, "ActiveSheet"), "Range", {"A1"});
+  const std::string before = GetText(cell, "Formula");
+  const std::vector<std::function<void()>> changes = {
+      [&] { Let(cell, "Value", 99.0); },
+      [&] { Let(cell, "Formula", "=1+1"); },
+      [&] { Call(cell, "ClearContents"); },
+  };
+  for (const auto& change : changes) {
+    const automation::Error error = ErrorOf(change);
+    EXPECT_EQ(error.Number(), 1004);
+    EXPECT_THAT(error.Description(), HasSubstr("the workbook was opened for reading only"));
+  }
+  EXPECT_EQ(GetText(cell, "Formula"), before);
 }
 
 TEST_F(LibreOfficeFiles, ACopyLeavesTheWorkbookAndTheFolderAsTheyWere) {
