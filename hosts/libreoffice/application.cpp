@@ -123,7 +123,7 @@ Variant Application::Intersect(const Variant& first, const Variant& second) cons
     Fail("Intersect takes ranges of one sheet, not of \"" + one->OnSheet()->Name() + "\" and \"" +
          other->OnSheet()->Name() + "\"");
   }
-  const auto common = workbook::CommonArea(one->Cells(), other->Cells());
+  const auto common = CommonArea(one->Cells(), other->Cells());
   if (!common) return Object();
   return std::make_shared<Range>(Office(), one->InBook(), one->OnSheet(), *common);
 }

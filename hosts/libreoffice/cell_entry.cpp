@@ -4,9 +4,9 @@
 
 #include "automation/conversions.h"
 #include "automation/text.h"
+#include "hosts/common/cell_errors.h"
+#include "hosts/common/typed_entry.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/workbook/cell_errors.h"
-#include "hosts/workbook/typed_entry.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -62,7 +62,7 @@ CellEntry PlainEntry(const Variant& value, double firstDay) {
     case Kind::String:
       return TextEntry(*value.TryGet<std::string>());
     case Kind::Error:
-      return ConstantEntry("=" + workbook::CellErrorText(*value.TryGet<automation::ErrorValue>()));
+      return ConstantEntry("=" + CellErrorText(*value.TryGet<automation::ErrorValue>()));
     case Kind::Object:
     case Kind::Array:
       break;
@@ -75,14 +75,14 @@ CellEntry FormulaEntry(const std::string& text) {
     Fail("A formula can't have more than 8192 characters");
   }
   const std::string formula = text.substr(1);
-  if (workbook::CellErrorOf(formula)) return ConstantEntry(text);
+  if (CellErrorOf(formula)) return ConstantEntry(text);
   return {CellEntry::Kind::Formula, 0, formula, {}};
 }
 
 CellEntry TypedText(const std::string& text, const Locale& locale, double firstDay) {
   if (text.starts_with('\'')) return TextEntry(text.substr(1));
   if (text.starts_with('=') && text.size() > 1) return FormulaEntry(text);
-  workbook::TypedEntry typed = workbook::ReadTypedEntry(text, locale);
+  TypedEntry typed = ReadTypedEntry(text, locale);
   CellEntry entry = PlainEntry(typed.value, firstDay);
   if (!typed.format.empty()) entry.format = std::move(typed.format);
   return entry;

@@ -11,10 +11,10 @@
 
 #include "automation/conversions.h"
 #include "automation/error.h"
+#include "hosts/common/cell_errors.h"
 #include "hosts/libreoffice/book.h"
 #include "hosts/libreoffice/cell_errors.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/workbook/cell_errors.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -37,7 +37,7 @@ std::optional<std::string> ConstantText(std::string_view nativeFormula) {
   if (nativeFormula == "=FALSE()") return "FALSE";
   if (!nativeFormula.starts_with("=#")) return std::nullopt;
   nativeFormula.remove_prefix(1);
-  if (!workbook::CellErrorOf(nativeFormula)) return std::nullopt;
+  if (!CellErrorOf(nativeFormula)) return std::nullopt;
   return std::string(nativeFormula);
 }
 
@@ -267,7 +267,7 @@ Variant ReadHasFormula(Sheet& sheet, const Area& area) {
   std::int64_t formulas = 0;
   for (const auto& part : Elements(found)) {
     // Asked about columns beyond those in use, the office answers with cells of other columns.
-    const auto inside = workbook::CommonArea(area, AreaOf(part));
+    const auto inside = CommonArea(area, AreaOf(part));
     if (inside) formulas += CountFormulas(sheet, *inside);
   }
   if (formulas == 0) return false;

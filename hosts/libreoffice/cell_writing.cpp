@@ -10,12 +10,12 @@
 #include <com/sun/star/sheet/XUniqueCellFormatRangesSupplier.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/book.h"
 #include "hosts/libreoffice/cell_entry.h"
 #include "hosts/libreoffice/cell_errors.h"
 #include "hosts/libreoffice/cell_reading.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/workbook/name_rules.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::libreoffice {
@@ -29,7 +29,7 @@ using Cell = Reference<css::table::XCell>;
 using Kind = CellEntry::Kind;
 
 std::string Place(Sheet& sheet, const Area& area) {
-  return workbook::QuotedSheetName(sheet.Name()) + "!" + AddressOf(area);
+  return QuotedSheetName(sheet.Name()) + "!" + AddressOf(area);
 }
 
 bool IsLocked(const Reference<css::uno::XInterface>& cells) {

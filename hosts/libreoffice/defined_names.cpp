@@ -8,14 +8,11 @@
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
 
 #include "automation/text.h"
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
-
-using workbook::SheetAndRest;
-using workbook::SplitSheet;
 
 /// Where references of a name are counted from that aren't absolute.
 const css::table::CellAddress kFirstCell(0, 0, 0);
@@ -32,7 +29,7 @@ std::string TextConstant(const std::string& text) {
 }
 
 void RequireGoodName(const std::string& name) {
-  if (const std::string fault = workbook::FaultOfName(name); !fault.empty()) {
+  if (const std::string fault = FaultOfName(name); !fault.empty()) {
     Fail("\"" + name + "\" can't be a name: " + fault);
   }
 }
@@ -86,7 +83,7 @@ std::string DefinedName::FullText() {
     }
     textIsExact_ = true;
   }
-  return scope_ ? workbook::QuotedSheetName(scope_->Name()) + "!" + text_ : text_;
+  return scope_ ? QuotedSheetName(scope_->Name()) + "!" + text_ : text_;
 }
 
 std::string DefinedName::Content() {
@@ -103,7 +100,7 @@ std::string DefinedName::Content() {
 std::string DefinedName::RefersTo() {
   const std::string content = Content();
   if (const auto reference = ReadNativeReference(content)) {
-    return "=" + workbook::QuotedSheetName(reference->sheet) + "!" + AddressOf(reference->area);
+    return "=" + QuotedSheetName(reference->sheet) + "!" + AddressOf(reference->area);
   }
   if (content.find(kDeadReference) != std::string::npos) return std::string("=") + kDeadReference;
   const std::string text = book_->FormulaTexts().Write(
@@ -204,7 +201,7 @@ std::vector<DefinedName> AllNames(Book& book, const SheetPointer& scope) {
 
 DefinedName DefineName(Book& book, SheetPointer scope, const std::string& given,
                        const std::string& content) {
-  SheetAndRest parts = SplitSheet(workbook::WithoutTrailingBlank(given));
+  SheetAndRest parts = SplitSheet(WithoutTrailingBlank(given));
   if (parts.hasSheet) {
     scope = book.FindSheet(parts.sheet);
     if (!scope) Fail("There is no sheet \"" + parts.sheet + "\" for the name \"" + given + "\"");
@@ -223,7 +220,7 @@ std::string NativeContent(Book& book, const std::string& text) {
   if (!text.starts_with('=')) return TextConstant(text);
   const std::string formula = text.substr(1);
   const SheetAndRest parts = SplitSheet(formula);
-  const auto area = workbook::ParseAddress(parts.rest);
+  const auto area = ParseAddress(parts.rest);
   if (area) {
     const SheetPointer sheet = parts.hasSheet ? book.FindSheet(parts.sheet) : book.ActiveSheet();
     if (sheet) return NativeReference({sheet->Name(), *area});

@@ -117,7 +117,7 @@ std::optional<SheetArea> ReadNativeReference(const std::string& content) {
   rest.remove_prefix(1);
   auto sheet = TakeSheet(rest);
   if (!sheet) return std::nullopt;
-  const auto area = workbook::ParseAddress(rest);
+  const auto area = ParseAddress(rest);
   // Relative references and the like are for the office to resolve.
   if (!area || AddressOf(*area) != rest) return std::nullopt;
   return SheetArea{std::move(*sheet), *area};

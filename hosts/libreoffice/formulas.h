@@ -7,8 +7,8 @@
 #include <optional>
 #include <string>
 
+#include "hosts/common/area.h"
 #include "hosts/libreoffice/uno.h"
-#include "hosts/workbook/area.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -40,7 +40,7 @@ class Formulas {
 /// A reference to cells of one sheet, as names hold it.
 struct SheetArea {
   std::string sheet;
-  workbook::Area area;
+  Area area;
 };
 
 /// "$'Data Sheet'.$B$2:$B$5": the office's notation for the content of a name.

@@ -1,12 +1,12 @@
 #include "hosts/libreoffice/name.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/application.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/names.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/workbook.h"
 #include "hosts/libreoffice/worksheet.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -36,7 +36,7 @@ Variant Name::GetName() { return name_.FullText(); }
 
 void Name::LetName(const Variant& name) {
   const std::string given = TextArgument(name);
-  const auto parts = workbook::SplitSheet(workbook::WithoutTrailingBlank(given));
+  const auto parts = SplitSheet(WithoutTrailingBlank(given));
   const bool ownSheet =
       !parts.hasSheet || (name_.Scope() && book_->FindSheet(parts.sheet) == name_.Scope());
   if (!ownSheet) {

@@ -1,12 +1,12 @@
 #include "hosts/libreoffice/names.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/application.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/name.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/workbook.h"
 #include "hosts/libreoffice/worksheet.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -72,7 +72,7 @@ void Names::RequireAlive() const {
 
 Variant Names::GetItem(const Variant& index) const {
   if (const auto* text = index.TryGet<std::string>()) {
-    auto name = FindName(*book_, sheet_, std::string(workbook::WithoutTrailingBlank(*text)));
+    auto name = FindName(*book_, sheet_, std::string(WithoutTrailingBlank(*text)));
     if (!name || (sheet_ && name->Scope() != sheet_)) {
       Fail("Workbook \"" + book_->Name() + "\" has no name \"" + *text + "\"");
     }

@@ -13,10 +13,10 @@
 #include <fstream>
 
 #include "cppuhelper/implbase1.hxx"
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/documents.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/file_lock.h"
-#include "hosts/workbook/name_rules.h"
 #include "osl/file.hxx"
 #include "rtl/ref.hxx"
 
@@ -145,7 +145,7 @@ Reference<css::lang::XComponent> LoadFile(Session& session, const std::string& p
 }
 
 void RequireSheetName(const std::string& name) {
-  if (const std::string fault = workbook::FaultOfSheetName(name); !fault.empty()) {
+  if (const std::string fault = FaultOfSheetName(name); !fault.empty()) {
     Fail("A sheet can't be called \"" + name + "\": " + fault);
   }
 }

@@ -1,7 +1,7 @@
 #include "hosts/libreoffice/range.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -82,8 +82,7 @@ Variant Range::Carry(const Invocation& call) {
 std::shared_ptr<Range> Range::Placed(std::int64_t rowOffset, std::int64_t columnOffset,
                                      std::int64_t rows, std::int64_t columns,
                                      Elements elements) const {
-  const auto area =
-      workbook::AreaOnSheet(area_.row + rowOffset, area_.column + columnOffset, rows, columns);
+  const auto area = AreaOnSheet(area_.row + rowOffset, area_.column + columnOffset, rows, columns);
   if (!area) {
     Fail(std::to_string(rows) + " by " + std::to_string(columns) + " cells, " +
          std::to_string(rowOffset) + " rows and " + std::to_string(columnOffset) +
@@ -141,7 +140,7 @@ Variant Range::GetColumns() const {
   return Placed(0, 0, area_.rows, area_.columns, Elements::Columns);
 }
 Variant Range::GetEntireRow() const {
-  return Placed(0, 1 - area_.column, area_.rows, workbook::kSheetColumns, Elements::Rows);
+  return Placed(0, 1 - area_.column, area_.rows, kSheetColumns, Elements::Rows);
 }
 Variant Range::GetAddress() const { return AddressOf(area_); }
 

@@ -3,6 +3,7 @@
 
 #include "automation/conversions.h"
 #include "automation/text.h"
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/application.h"
 #include "hosts/libreoffice/cell_reading.h"
 #include "hosts/libreoffice/cell_writing.h"
@@ -12,7 +13,6 @@
 #include "hosts/libreoffice/name.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/worksheet.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -62,7 +62,7 @@ void Range::ClearContents() { ClearCells(*sheet_, area_); }
 // --- names, sheet, selection ---------------------------------------------------------------------
 
 std::string Range::Place() const {
-  return workbook::QuotedSheetName(sheet_->Name()) + "!" + AddressOf(area_);
+  return QuotedSheetName(sheet_->Name()) + "!" + AddressOf(area_);
 }
 
 Variant Range::GetName() const {

@@ -9,12 +9,10 @@
 #include <string>
 
 #include "automation/dispatch.h"
+#include "hosts/common/area.h"
 #include "hosts/libreoffice/uno.h"
-#include "hosts/workbook/area.h"
 
 namespace rangewerks::hosts::libreoffice {
-
-using workbook::Area;
 
 /// The office counts from 0.
 Area AreaOf(const css::table::CellRangeAddress& address);

@@ -1,12 +1,12 @@
 #include "hosts/libreoffice/worksheet.h"
 
 #include "automation/text.h"
+#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/application.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/names.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/workbook.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -17,7 +17,7 @@ using automation::Member;
 const Member kRange{"Range"};
 const Member kCells{"Cells"};
 
-constexpr Area kWholeSheet{1, 1, workbook::kSheetRows, workbook::kSheetColumns};
+constexpr Area kWholeSheet{1, 1, kSheetRows, kSheetColumns};
 
 }  // namespace
 
@@ -64,7 +64,7 @@ void Worksheet::LetName(const Variant& name) {
   const std::string given = TextArgument(name);
   const std::string before = sheet_->Name();
   const std::string refused = "Sheet \"" + before + "\" can't be called \"" + given + "\": ";
-  if (const std::string fault = workbook::FaultOfSheetName(given); !fault.empty()) {
+  if (const std::string fault = FaultOfSheetName(given); !fault.empty()) {
     Fail(refused + fault);
   }
   const SheetPointer other = book_->FindSheet(given);
@@ -79,11 +79,11 @@ Variant Worksheet::GetIndex() const { return sheet_->Index() + 1; }
 // --- cells ---------------------------------------------------------------------------------------
 
 Area Worksheet::AreaOf(const std::string& nameOrAddress) const {
-  const std::string wanted(workbook::WithoutTrailingBlank(nameOrAddress));
+  const std::string wanted(WithoutTrailingBlank(nameOrAddress));
   // What reads as an address can't be a name in this office, so that no name has to be looked for.
   const bool mayHaveSheet = wanted.find('!') != std::string::npos;
   if (!mayHaveSheet) {
-    if (const auto area = workbook::ParseAddress(wanted)) return *area;
+    if (const auto area = ParseAddress(wanted)) return *area;
   }
   const auto refuse = [&](const std::string& reason) {
     Fail("Range \"" + nameOrAddress + "\" isn't valid on sheet \"" + sheet_->Name() +
@@ -96,8 +96,8 @@ Area Worksheet::AreaOf(const std::string& nameOrAddress) const {
     if (cells && cells->sheet == sheet_) return cells->area;
     refuse("the name refers to " + name->RefersTo());
   }
-  const auto parts = workbook::SplitSheet(wanted);
-  const auto area = workbook::ParseAddress(parts.rest);
+  const auto parts = SplitSheet(wanted);
+  const auto area = ParseAddress(parts.rest);
   if (!area) refuse("there is no such name, nor is it an address");
   if (!automation::EqualText(parts.sheet, sheet_->Name())) {
     refuse("it is an address on another sheet");

@@ -6,9 +6,9 @@
 #include "automation/conversions.h"
 #include "automation/dispatch.h"
 #include "automation/text.h"
-#include "hosts/workbook/cell_errors.h"
+#include "hosts/common/cell_errors.h"
+#include "hosts/common/typed_entry.h"
 #include "hosts/workbook/failure.h"
-#include "hosts/workbook/typed_entry.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {

@@ -1,8 +1,8 @@
 #include "hosts/workbook/defined_names.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/model.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {

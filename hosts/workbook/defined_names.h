@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "automation/text.h"
-#include "hosts/workbook/area.h"
+#include "hosts/common/area.h"
 
 namespace rangewerks::hosts::workbook {
 

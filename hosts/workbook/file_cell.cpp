@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "automation/conversions.h"
-#include "hosts/workbook/cell_errors.h"
+#include "hosts/common/cell_errors.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {

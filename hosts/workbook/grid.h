@@ -6,7 +6,7 @@
 #include <utility>
 #include <vector>
 
-#include "hosts/workbook/area.h"
+#include "hosts/common/area.h"
 #include "hosts/workbook/cell.h"
 
 namespace rangewerks::hosts::workbook {

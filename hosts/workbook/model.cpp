@@ -3,8 +3,8 @@
 #include <algorithm>
 
 #include "automation/text.h"
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/failure.h"
-#include "hosts/workbook/name_rules.h"
 
 namespace rangewerks::hosts::workbook {
 

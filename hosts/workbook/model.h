@@ -8,7 +8,7 @@
 #include <vector>
 
 #include "automation/dispatch.h"
-#include "hosts/workbook/area.h"
+#include "hosts/common/area.h"
 #include "hosts/workbook/call_log.h"
 #include "hosts/workbook/defined_names.h"
 #include "hosts/workbook/grid.h"

@@ -1,8 +1,8 @@
 #include "hosts/workbook/name.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/application.h"
 #include "hosts/workbook/failure.h"
-#include "hosts/workbook/name_rules.h"
 #include "hosts/workbook/range.h"
 #include "hosts/workbook/workbook.h"
 #include "hosts/workbook/worksheet.h"

@@ -1,9 +1,9 @@
 #include "hosts/workbook/range.h"
 
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/application.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/name.h"
-#include "hosts/workbook/name_rules.h"
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {

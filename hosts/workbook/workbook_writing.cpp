@@ -4,7 +4,7 @@
 #include <nlohmann/json.hpp>
 
 #include "automation/conversions.h"
-#include "hosts/workbook/cell_errors.h"
+#include "hosts/common/cell_errors.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/file_locale.h"
 

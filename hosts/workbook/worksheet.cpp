@@ -2,9 +2,9 @@
 
 #include <algorithm>
 
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/application.h"
 #include "hosts/workbook/failure.h"
-#include "hosts/workbook/name_rules.h"
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/range.h"
 #include "hosts/workbook/workbook.h"

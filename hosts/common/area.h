@@ -6,7 +6,7 @@
 #include <string>
 #include <string_view>
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 
 inline constexpr std::int32_t kSheetRows = 1048576;
 inline constexpr std::int32_t kSheetColumns = 16384;
@@ -52,4 +52,4 @@ std::optional<Area> ParseAddress(std::string_view text);
 /// The absolute address: "$C$3", "$C$3:$C$10", "$A:$C" for whole columns, "$3:$5" for whole rows.
 std::string AddressOf(const Area& area);
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

@@ -1,4 +1,4 @@
-#include "hosts/workbook/typed_entry.h"
+#include "hosts/common/typed_entry.h"
 
 #include <algorithm>
 #include <charconv>
@@ -7,9 +7,9 @@
 
 #include "automation/conversions.h"
 #include "automation/text.h"
-#include "hosts/workbook/cell_errors.h"
+#include "hosts/common/cell_errors.h"
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 namespace {
 
 using automation::Date;
@@ -145,4 +145,4 @@ TypedEntry ReadTypedEntry(const std::string& text, const Locale& locale) {
   return {text, {}};
 }
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

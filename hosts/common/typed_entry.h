@@ -7,7 +7,7 @@
 #include "automation/locale.h"
 #include "automation/variant.h"
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 
 /// The value that a text stands for, and the number format that it brings along, if any.
 struct TypedEntry {
@@ -26,4 +26,4 @@ struct TypedEntry {
 /// - all else is text, unchanged.
 TypedEntry ReadTypedEntry(const std::string& text, const automation::Locale& locale);
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

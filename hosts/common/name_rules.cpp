@@ -1,11 +1,11 @@
-#include "hosts/workbook/name_rules.h"
+#include "hosts/common/name_rules.h"
 
 #include <algorithm>
 
 #include "automation/text.h"
-#include "hosts/workbook/area.h"
+#include "hosts/common/area.h"
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 namespace {
 
 constexpr std::size_t kLongestName = 255;
@@ -105,4 +105,4 @@ std::string_view WithoutTrailingBlank(std::string_view name) {
   return name.ends_with(' ') ? name.substr(0, name.size() - 1) : name;
 }
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

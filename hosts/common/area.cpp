@@ -1,8 +1,8 @@
-#include "hosts/workbook/area.h"
+#include "hosts/common/area.h"
 
 #include <algorithm>
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 namespace {
 
 constexpr std::int32_t kLetters = 26;
@@ -113,4 +113,4 @@ std::string AddressOf(const Area& area) {
   return address + ":" + ColumnAddress(area.LastColumn()) + RowAddress(area.LastRow());
 }
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

@@ -4,7 +4,7 @@
 #include <string>
 #include <string_view>
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 
 /// Why a defined name can't be called that, as the end of a sentence such as "it holds a blank";
 /// empty when it can. `name` is without a sheet in front.
@@ -28,4 +28,4 @@ SheetAndRest SplitSheet(std::string_view reference);
 /// The name without the one trailing blank that it may have been given.
 std::string_view WithoutTrailingBlank(std::string_view name);
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts

@@ -1,11 +1,11 @@
-#include "hosts/workbook/cell_errors.h"
+#include "hosts/common/cell_errors.h"
 
 #include <array>
 
 #include "automation/text.h"
 #include "platform/excel_constants.h"
 
-namespace rangewerks::hosts::workbook {
+namespace rangewerks::hosts {
 namespace {
 
 using automation::ErrorValue;
@@ -40,4 +40,4 @@ std::optional<ErrorValue> CellErrorOf(std::string_view text) {
   return std::nullopt;
 }
 
-}  // namespace rangewerks::hosts::workbook
+}  // namespace rangewerks::hosts
