@@ -69,7 +69,7 @@ class FillReader {
     for (const auto& [field, value] : element.items()) {
       if (field == "row" || field == "values") continue;
       Refuse(place + '/' + PointerPart(field),
-             "beside \"row\" and \"values\" there is no other field");
+             R"(beside "row" and "values" there is no other field)");
     }
   }
 
