@@ -5,6 +5,9 @@
 #include <com/sun/star/beans/NamedValue.hpp>
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
+#include <com/sun/star/sheet/ConditionOperator.hpp>
+#include <com/sun/star/sheet/ValidationType.hpp>
+#include <com/sun/star/sheet/XSheetCondition.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 #include <com/sun/star/util/Date.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
@@ -56,12 +59,40 @@ inline void Protect(const Object& workbook, std::int32_t sheet) {
   lo::As<css::util::XProtectable>(BookOf(workbook).SheetAt(sheet)->Cells())->protect({});
 }
 
+inline css::uno::Reference<css::beans::XPropertySet> PropertiesOf(const Object& range) {
+  const auto cells = range.As<lo::Range>();
+  return lo::As<css::beans::XPropertySet>(cells->OnSheet()->Block(cells->Cells()));
+}
+
 /// Leaves the cells open to changes while their sheet is protected.
 inline void Unlock(const Object& range) {
-  const auto cells = range.As<lo::Range>();
   const css::util::CellProtection open(false, false, false, false);
-  lo::As<css::beans::XPropertySet>(cells->OnSheet()->Block(cells->Cells()))
-      ->setPropertyValue(lo::ToUno("CellProtection"), css::uno::Any(open));
+  PropertiesOf(range)->setPropertyValue(lo::ToUno("CellProtection"), css::uno::Any(open));
+}
+
+inline css::uno::Reference<css::beans::XPropertySet> ValidationOf(const Object& range) {
+  css::uno::Reference<css::beans::XPropertySet> rule;
+  PropertiesOf(range)->getPropertyValue(lo::ToUno("Validation")) >>= rule;
+  return rule;
+}
+
+/// Allows texts of so many characters in the cells.
+inline void LimitTextLength(const Object& range, const char* length) {
+  const auto rule = ValidationOf(range);
+  rule->setPropertyValue(lo::ToUno("Type"), css::uno::Any(css::sheet::ValidationType_TEXT_LEN));
+  const auto condition = lo::As<css::sheet::XSheetCondition>(rule);
+  condition->setOperator(css::sheet::ConditionOperator_LESS_EQUAL);
+  condition->setFormula1(lo::ToUno(length));
+  PropertiesOf(range)->setPropertyValue(lo::ToUno("Validation"), css::uno::Any(rule));
+}
+
+/// The greatest length of a text that the cells allow; empty when there is no such rule.
+inline std::string TextLengthLimitOf(const Object& range) {
+  const auto rule = ValidationOf(range);
+  auto type = css::sheet::ValidationType_ANY;
+  rule->getPropertyValue(lo::ToUno("Type")) >>= type;
+  if (type != css::sheet::ValidationType_TEXT_LEN) return {};
+  return lo::ToUtf8(lo::As<css::sheet::XSheetCondition>(rule)->getFormula1());
 }
 
 }  // namespace rangewerks::tests

@@ -178,6 +178,30 @@ TEST_F(LibreOfficeFiles, ALockedFileIsRefusedWithItsOwner) {
   EXPECT_EQ(GetText(book, "FullName"), path);
 }
 
+TEST_F(LibreOfficeFiles, ClearedCellsKeepTheirDataValidationInEveryFormat) {
+  const auto column = [](const Object& book) {
+    return GetObject(GetObject(book, "ActiveSheet"), "Range", {"A1:A3"});
+  };
+  for (const char* extension : {"xlsx", "xls", "ods"}) {
+    const std::string filled = folder_.File(std::string("filled.") + extension);
+    const std::string cleared = folder_.File(std::string("cleared.") + extension);
+    const Object made = SharedOffice().NewWorkbook({"Ledger"});
+    Let(column(made), "Value", "abc");
+    LimitTextLength(column(made), "3");
+    SharedOffice().SaveCopyAs(made, filled);
+
+    const Object book = SharedOffice().Open(filled);
+    Call(column(book), "ClearContents");
+    SharedOffice().SaveCopyAs(book, cleared);
+    SharedOffice().Close(book);
+
+    const Object reopened = SharedOffice().Open(cleared);
+    EXPECT_EQ(Get(column(reopened), "Value"), Variant(automation::Array(3, 1))) << extension;
+    EXPECT_EQ(TextLengthLimitOf(column(reopened)), "3") << extension;
+    SharedOffice().Close(reopened);
+  }
+}
+
 TEST_F(LibreOfficeFiles, AWorkbookOpenedForReadingRefusesEveryChangeOfItsCells) {
   const Object book = SharedOffice().Open(Saved("book.xlsx"), {.readOnly = true});
   const Object cell = GetObject(GetObject(book, "ActiveSheet"), "Range", {"A1"});
