@@ -60,7 +60,8 @@ TEST_P(RoundTrip, WhatIsFilledInComesBackWithItsKind) {
                             " --interface " RANGEWERKS_EXAMPLES
                             "/journal.interface.json --data again.csv --in-place --output json");
   EXPECT_EQ(again.status, 0) << again.messages;
-  for (const auto& cell : nlohmann::json::parse(again.output)["cells"]) {
+  const auto report = nlohmann::json::parse(again.output);
+  for (const auto& cell : report["cells"]) {
     EXPECT_EQ(cell["holds"], cell["value"]) << cell;
   }
 }
