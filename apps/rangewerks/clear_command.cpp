@@ -29,8 +29,10 @@ ExitStatus RunClear(const ClearOptions& options, Console console) {
   const SaveTarget target(options.save, options.sheet);
   SheetSession session(options.sheet, Access::Write);
   const ClearReport report = WithHost(options.sheet.book + ": clearing stopped", [&] {
-    ClearReport cleared = Clear(*list, session.Sheet(), options.choice);
+    Progress progress(console.messages, console.messagesOnTerminal);
+    ClearReport cleared = Clear(*list, session.Sheet(), options.choice, progress);
     RequireAnyRange(options.sheet.book, cleared.found, *list);
+    progress.Say("saving to " + target.Path());
     target.Write([&](const std::string& path) { session.SaveCopyAs(path); });
     return cleared;
   });

@@ -80,16 +80,23 @@ void RequireDeclared(const ClearChoice& choice, const clsInterfaceRangeList& lis
 }
 
 ClearReport Clear(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
-                  const ClearChoice& choice) {
+                  const ClearChoice& choice, Progress& progress) {
+  progress.Say("looking for the ranges");
   ClearReport report{LocateRanges(list, sheet), {}};
-  for (std::int32_t index = 1; index <= list.Count(); ++index) {
+  const std::int32_t ranges = list.Count();
+  for (std::int32_t index = 1; index <= ranges; ++index) {
+    progress.Show(index, ranges, "looking for formulas in range");
     report.outcomes.push_back(OutcomeFor(list, *list.Item(index), choice));
   }
+  const auto cleared =
+      static_cast<std::int32_t>(std::ranges::count(report.outcomes, RangeOutcome::Cleared));
+  progress.Say("clearing " + std::to_string(cleared) + (cleared == 1 ? " range" : " ranges"));
   ClearChosen(list, choice);
+  std::int32_t checked = 0;
   for (std::size_t index = 0; index < report.outcomes.size(); ++index) {
-    if (report.outcomes[index] == RangeOutcome::Cleared) {
-      RequireEmpty(list, report.found.ranges[index]);
-    }
+    if (report.outcomes[index] != RangeOutcome::Cleared) continue;
+    progress.Show(++checked, cleared, "checking cleared range");
+    RequireEmpty(list, report.found.ranges[index]);
   }
   return report;
 }

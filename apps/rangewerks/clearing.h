@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "apps/rangewerks/progress.h"
 #include "apps/rangewerks/sheet_ranges.h"
 
 namespace rangewerks::apps {
@@ -41,7 +42,7 @@ void RequireDeclared(const ClearChoice& choice, const clsInterfaceRangeList& lis
 /// Raises the library's errors, ranges before the failing one being cleared, and Failure for a
 /// range that has content all the same.
 ClearReport Clear(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
-                  const ClearChoice& choice);
+                  const ClearChoice& choice, Progress& progress);
 
 /// The forms in which the result is written out. Each gives the whole text, ending in a line feed;
 /// `saved` is the file that the workbook has been saved to.

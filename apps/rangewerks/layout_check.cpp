@@ -20,8 +20,13 @@ Json JsonFault(const LayoutCheck& check) {
 
 }  // namespace
 
-LayoutCheck CheckLayout(clsInterfaceRangeList& list, const excel::Worksheet& sheet) {
+LayoutCheck CheckLayout(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
+                        Progress& progress) {
+  progress.Say("looking for the ranges");
   LayoutCheck check{LocateRanges(list, sheet), {}};
+  const auto there = std::ranges::count(check.found.ranges, true, &FoundRange::exists);
+  progress.Say("checking the layout of " + std::to_string(there) +
+               (there == 1 ? " range" : " ranges"));
   try {
     list.ValidateRanges();
   } catch (const automation::Error& error) {

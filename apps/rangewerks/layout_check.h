@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "apps/rangewerks/progress.h"
 #include "apps/rangewerks/sheet_ranges.h"
 #include "automation/error.h"
 
@@ -17,7 +18,8 @@ struct LayoutCheck {
 
 /// Locates the ranges on `sheet` and validates them. Raises what SetIfRangesExist raises, and the
 /// host's error when the host has gone.
-LayoutCheck CheckLayout(clsInterfaceRangeList& list, const excel::Worksheet& sheet);
+LayoutCheck CheckLayout(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
+                        Progress& progress);
 
 /// The forms in which the result is written out. Each gives the whole text, ending in a line feed.
 std::string TableOf(const std::string& book, const LayoutCheck& check);

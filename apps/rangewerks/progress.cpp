@@ -10,12 +10,17 @@ Progress::Progress(std::ostream& output, bool isTerminal, Clock clock)
     : output_(output), isTerminal_(isTerminal), clock_(std::move(clock)), next_(clock_() + 1s) {}
 
 void Progress::Show(std::int32_t done, std::int32_t all, const char* what) {
+  if (!isTerminal_ || clock_() < next_) return;
+  Write(std::string(what) + ' ' + std::to_string(done) + " of " + std::to_string(all));
+}
+
+void Progress::Say(const std::string& doing) { Write(doing); }
+
+void Progress::Write(const std::string& line) {
   if (!isTerminal_) return;
-  const auto now = clock_();
-  if (now < next_) return;
-  next_ = now + 100ms;
+  next_ = clock_() + 100ms;
   isShown_ = true;
-  output_ << "\rrangewerks: " << what << ' ' << done << " of " << all << "\x1b[K" << std::flush;
+  output_ << "\rrangewerks: " << line << "\x1b[K" << std::flush;
 }
 
 void Progress::Clear() {

@@ -25,8 +25,10 @@ std::string TextOf(const SheetOptions& options, const LayoutCheck& check) {
 ExitStatus RunValidate(const SheetOptions& options, Console console) {
   const auto list = ReadInterfaceFile(options.interfaceFile);
   const SheetSession session(options, Access::Read);
-  const LayoutCheck check = WithHost(options.book + ": validating stopped",
-                                     [&] { return CheckLayout(*list, session.Sheet()); });
+  const LayoutCheck check = WithHost(options.book + ": validating stopped", [&] {
+    Progress progress(console.messages, console.messagesOnTerminal);
+    return CheckLayout(*list, session.Sheet(), progress);
+  });
   // An unsound layout says itself what is missing.
   if (!check.fault) RequireAnyRange(options.book, check.found, *list);
 

@@ -37,11 +37,24 @@ TEST_F(ProgressOfARun, IsWrittenOverAtMostTenTimesASecondAndTakenAway) {
             "\rrangewerks: row 120 of 300\x1b[K\rrangewerks: row 131 of 300\x1b[K\r\x1b[K");
 }
 
+TEST_F(ProgressOfARun, SaysAtOnceWhatAStepWithoutACountIsDoing) {
+  {
+    Progress progress(output, true, clock);
+    progress.Say("saving");
+    now += 99ms;
+    progress.Show(1, 300);
+    now += 1ms;
+    progress.Show(2, 300);
+  }
+  EXPECT_EQ(output.str(), "\rrangewerks: saving\x1b[K\rrangewerks: row 2 of 300\x1b[K\r\x1b[K");
+}
+
 TEST_F(ProgressOfARun, IsSilentWhenNobodyWatches) {
   {
     Progress progress(output, false, clock);
     now += 1h;
     progress.Show(120, 300);
+    progress.Say("saving");
   }
   EXPECT_EQ(output.str(), "");
 }
