@@ -119,6 +119,12 @@ TEST_F(Clearing, IsFormulaOfARangeWithoutOneIsFalse) {
   EXPECT_FALSE(list->IsFormula("a"));
 }
 
+TEST_F(Clearing, AnAnswerOfTheHostForMixedCellsCountsAsNoFormula) {
+  Put("A1", "=B1");
+  EXPECT_TRUE(Object(Cells("A1:A2")).Get(Member("HasFormula")).IsNull());
+  EXPECT_FALSE(Cells("A1:A2").get_HasFormula());
+}
+
 TEST_F(Clearing, IsFormulaOfARangeThatIsNotOnTheSheetFailsWithTheWordsOfGetRange) {
   Declare("a");
   const Error error = ErrorOf([&] { list->IsFormula("a"); });

@@ -170,7 +170,7 @@ TEST_F(Writes, LeaveBlankOnPopulateWritesACellOfThreeBlanks) {
   EXPECT_EQ(At("A1"), Variant("new"));
 }
 
-TEST_F(Writes, LeaveBlankOnPopulateLeavesEveryCellWithContentAlone) {
+TEST_F(Writes, LeaveBlankOnPopulateRefusesACellThatHoldsZeroOrAnyOtherContent) {
   Place();
   list->let_LeaveBlankOnPopulate(true);
   for (const Variant& content : {Variant(0.0), Variant("  x"), Variant(false)}) {
