@@ -20,9 +20,14 @@ NameTable& Names() {
   return *table;
 }
 
-std::uint32_t Intern(std::string_view name) {
+std::string Folded(std::string_view name) {
   std::string folded(name);
   for (char& c : folded) c = LowerAscii(c);
+  return folded;
+}
+
+std::uint32_t Intern(std::string_view name) {
+  std::string folded = Folded(name);
   NameTable& table = Names();
   const std::lock_guard lock(table.mutex);
   const auto [entry, added] =
@@ -34,6 +39,22 @@ std::uint32_t Intern(std::string_view name) {
 }  // namespace
 
 Member::Member(std::string_view name) : id_(Intern(name)) {}
+
+std::optional<Member> Member::TryFind(std::string_view name) {
+  const std::string folded = Folded(name);
+  NameTable& table = Names();
+  const std::lock_guard lock(table.mutex);
+  const auto found = table.ids.find(folded);
+  if (found == table.ids.end()) return std::nullopt;
+  return Member(found->second);
+}
+
+std::optional<Member> Member::TryFromId(std::uint32_t id) {
+  NameTable& table = Names();
+  const std::lock_guard lock(table.mutex);
+  if (id >= table.names.size()) return std::nullopt;
+  return Member(id);
+}
 
 Member Member::Default() {
   static const Member member("_Default");

@@ -6,6 +6,7 @@
 
 #include <cstdint>
 #include <functional>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -20,6 +21,12 @@ class Member {
   /// Interns a name. The spelling that was interned first is the one that Name() returns.
   explicit Member(std::string_view name);
 
+  /// The member of that name, if the name has been interned: looking names up interns none.
+  static std::optional<Member> TryFind(std::string_view name);
+
+  /// The member of that Id(), if there is one.
+  static std::optional<Member> TryFromId(std::uint32_t id);
+
   /// The member that stands for the object itself: the default property or method.
   static Member Default();
 
@@ -29,6 +36,8 @@ class Member {
   friend bool operator==(Member left, Member right) noexcept { return left.id_ == right.id_; }
 
  private:
+  explicit Member(std::uint32_t id) noexcept : id_(id) {}
+
   std::uint32_t id_;
 };
 

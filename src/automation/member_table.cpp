@@ -38,17 +38,28 @@ const MemberInfo& MemberTable::Find(const Invocation& call) const {
   return entries_[place - 1];
 }
 
+const MemberInfo* MemberTable::TryFind(Member member, CallKind kind) const {
+  const auto found = byName_.find(member);
+  const std::size_t place = found == byName_.end() ? 0 : found->second.at(Slot(kind));
+  return place == 0 ? nullptr : &entries_[place - 1];
+}
+
 Variant MemberTable::Invoke(Dispatch& self, const Invocation& call) const {
-  const MemberInfo& entry = Find(call);
+  return Invoke(self, Find(call), call.positional, call.named);
+}
+
+Variant MemberTable::Invoke(Dispatch& self, const MemberInfo& entry,
+                            std::span<const Argument> positional,
+                            std::span<const NamedArgument> namedArguments) {
   const std::size_t declared = entry.arguments.size();
   const std::size_t count = declared + (Writes(entry.kind) ? 1 : 0);
-  if (call.positional.size() > count || count > kMostArguments) {
+  if (positional.size() > count || count > kMostArguments) {
     throw Error(ErrorNumber::WrongNumberOfArguments);
   }
 
   std::array<const Argument*, kMostArguments> placed{};
-  for (std::size_t i = 0; i < call.positional.size(); ++i) placed.at(i) = &call.positional[i];
-  for (const NamedArgument& named : call.named) {
+  for (std::size_t i = 0; i < positional.size(); ++i) placed.at(i) = &positional[i];
+  for (const NamedArgument& named : namedArguments) {
     const Argument*& place = placed.at(PositionOf(entry, named.name));
     if (place != nullptr) throw Error(ErrorNumber::WrongNumberOfArguments);
     place = &named.argument;

@@ -92,6 +92,11 @@ class MemberTable {
   /// take their defaults, values are converted to the declared types and written back where the
   /// member writes to them. Raises 438, 448, 449, 450 or 13 when the call doesn't fit.
   Variant Invoke(Dispatch& self, const Invocation& call) const;
+  /// The same for an entry of this table, which the caller has found itself.
+  static Variant Invoke(Dispatch& self, const MemberInfo& entry,
+                        std::span<const Argument> positional, std::span<const NamedArgument> named);
+  /// The entry of a member in exactly that role, or null.
+  const MemberInfo* TryFind(Member member, CallKind kind) const;
 
  private:
   explicit MemberTable(std::string_view className) : className_(className) {}
