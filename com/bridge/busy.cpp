@@ -53,18 +53,16 @@ double PatienceInSeconds() {
   return kPatience;
 }
 
-HRESULT AskPatiently(const std::function<HRESULT()>& call) {
-  HRESULT result = call();
-  if (!IsBusy(result)) return result;
+HRESULT AskAgain(const std::function<HRESULT()>& call, HRESULT answer) {
   const ULONGLONG start = GetTickCount64();
   const auto patience = static_cast<ULONGLONG>(PatienceInSeconds() * 1000);
-  for (DWORD pause = kFirstPause; IsBusy(result); pause = std::min(pause * 2, kLongestPause)) {
+  for (DWORD pause = kFirstPause; IsBusy(answer); pause = std::min(pause * 2, kLongestPause)) {
     const ULONGLONG spent = GetTickCount64() - start;
     if (spent >= patience) break;
     Pause(static_cast<DWORD>(std::min<ULONGLONG>(pause, patience - spent)));
-    result = call();
+    answer = call();
   }
-  return result;
+  return answer;
 }
 
 }  // namespace rangewerks::com

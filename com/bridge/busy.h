@@ -18,9 +18,17 @@ bool IsBusy(HRESULT result);
 /// again) to 600; 30 without one.
 double PatienceInSeconds();
 
+/// Makes a call again for as long as it answers that the server is busy and the patience lasts;
+/// `answer` is what it answered first. Returns the last answer.
+HRESULT AskAgain(const std::function<HRESULT()>& call, HRESULT answer);
+
 /// Makes a call, and makes it again for as long as it answers that the server is busy and the
 /// patience lasts. Returns the last answer. Between the calls the thread sleeps, 10 milliseconds at
 /// first and at most 500, and serves the COM calls that come in.
-HRESULT AskPatiently(const std::function<HRESULT()>& call);
+template <class Call>
+HRESULT AskPatiently(const Call& call) {
+  const HRESULT answer = call();
+  return IsBusy(answer) ? AskAgain(call, answer) : answer;
+}
 
 }  // namespace rangewerks::com
