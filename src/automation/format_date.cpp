@@ -53,7 +53,8 @@ class DateWriter {
       if (pattern.front() == '"' || pattern.front() == '\\') {
         text_ += TakeKept(pattern);
       } else if (StartsWithHalfOfDay(pattern)) {
-        text_ += parts_.hour < 12 ? "AM" : "PM";
+        const bool isSmall = pattern.front() == 'a';
+        text_ += parts_.hour < 12 ? (isSmall ? "am" : "AM") : (isSmall ? "pm" : "PM");
         pattern.remove_prefix(kHalfOfDay.size());
       } else {
         pattern.remove_prefix(WriteSymbol(pattern));

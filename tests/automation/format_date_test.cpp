@@ -82,7 +82,9 @@ TEST(FormatDate, TakesLettersInEitherCase) {
   ExpectAll(Afternoon(),
             {{"DD/MM/YYYY", "05/03/2024"},
              {"Dd/mM/yYyY", "05/03/2024"},
-             {"HH:MM:SS am/pm", "03:04:09 PM"},
+             {"HH:MM:SS am/pm", "03:04:09 pm"},
+             {"h aM/pM", "3 pm"},
+             {"h Am/PM", "3 PM"},
              {"MMMM", "March"}},
             MonthFirst());
 }
