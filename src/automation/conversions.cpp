@@ -3,6 +3,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <type_traits>
 
 #include "automation/calendar.h"
 #include "automation/date_text.h"
@@ -46,16 +47,6 @@ std::string DateToString(Date date, const Locale& locale) {
   return text;
 }
 
-/// A bit pattern may set the sign bit of the narrower integer: "&HFFFF" is the 16-bit -1.
-template <class Integer>
-double TextToNumber(const std::string& text, const Locale& locale) {
-  const NumberRead read = ReadNumber(text, locale);
-  const double value = Checked(read);
-  constexpr double kSpan = 2.0 * (static_cast<double>(std::numeric_limits<Integer>::max()) + 1.0);
-  const bool hasSignBit = value > std::numeric_limits<Integer>::max() && value < kSpan;
-  return read.isBitPattern && hasSignBit ? value - kSpan : value;
-}
-
 template <class Integer>
 Integer Narrow(double value) {
   const double rounded = std::nearbyint(value);
@@ -65,12 +56,21 @@ Integer Narrow(double value) {
   return static_cast<Integer>(rounded);
 }
 
+/// A bit pattern may set the integer's own sign bit: "&HFFFF" is the 16-bit -1.
+template <class Integer>
+Integer TextToWhole(const std::string& text, const Locale& locale) {
+  const NumberRead read = ReadNumber(text, locale);
+  const double value = Checked(read);
+  if (!read.isBitPattern) return Narrow<Integer>(value);
+  using Bits = std::make_unsigned_t<Integer>;
+  if (read.bits > std::numeric_limits<Bits>::max()) throw Error(ErrorNumber::Overflow);
+  return static_cast<Integer>(static_cast<Bits>(read.bits));
+}
+
 template <class Integer>
 Integer ToWhole(const Variant& value, const Locale& locale) {
   if (value.IsObject()) return ToWhole<Integer>(DefaultValue(value), locale);
-  if (const auto* text = value.TryGet<std::string>()) {
-    return Narrow<Integer>(TextToNumber<Integer>(*text, locale));
-  }
+  if (const auto* text = value.TryGet<std::string>()) return TextToWhole<Integer>(*text, locale);
   return Narrow<Integer>(ToDouble(value, locale));
 }
 
@@ -139,8 +139,8 @@ std::int32_t ToLong(const Variant& value, const Locale& locale) {
 bool ToBoolean(const Variant& value, const Locale& locale) {
   if (value.IsObject()) return ToBoolean(DefaultValue(value), locale);
   if (const auto* text = value.TryGet<std::string>()) {
-    if (EqualText(*text, "True")) return true;
-    if (EqualText(*text, "False")) return false;
+    if (EqualText(*text, "True") || *text == "#TRUE#") return true;
+    if (EqualText(*text, "False") || *text == "#FALSE#") return false;
   }
   return ToDouble(value, locale) != 0;
 }

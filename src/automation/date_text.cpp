@@ -22,8 +22,9 @@ std::optional<Date> ReadBoth(std::string_view day, std::string_view time, const 
 
 }  // namespace
 
-std::optional<Date> ReadDate(std::string_view text, const Locale& locale) {
-  text = TrimBlanks(text);
+std::optional<Date> ReadDate(std::string_view writtenText, const Locale& locale) {
+  const std::string plain = WithCommonBlanks(writtenText);
+  const std::string_view text = TrimBlanks(plain);
   if (const auto day = ReadDay(text, locale)) return DateAt(*day, 0);
   if (const auto seconds = ReadTime(text, locale)) return DateAt(0, *seconds);
   // Both, in either order: they part at one of the blanks.

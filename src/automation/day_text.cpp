@@ -23,14 +23,13 @@ struct Part {
   bool IsLong() const { return digits >= 3; }  ///< nothing but a year has so many digits
   int Day() const { return IsName() || IsLong() ? 0 : value; }
   int Month() const { return IsLong() ? 0 : value; }
-  int Year() const {
-    if (IsName()) return 0;
+  int Year(const Locale& locale) const {
     if (IsLong()) return value;
-    return value <= 29 ? 2000 + value : 1900 + value;
+    return locale.lastTwoDigitYear - (locale.lastTwoDigitYear - value) % 100;
   }
 };
 
-enum class Joint { None, Blank, Comma, Dot, Mark };
+enum class Joint { None, Blank, Stop, Mark };  ///< a stop is a comma or dot that separates no dates
 
 /// The parts of a text and what joins each to the next.
 struct Parts {
@@ -100,15 +99,17 @@ std::optional<Part> TakePart(std::string_view& text, const Locale& locale) {
 Joint TakeJoint(std::string_view& text, const Locale& locale) {
   const bool hasBlank = !TakeWhile(text, IsWhiteSpace).empty();
   Joint joint = hasBlank ? Joint::Blank : Joint::None;
-  if (!locale.dateSeparator.empty() && text.starts_with(locale.dateSeparator)) {
-    text.remove_prefix(locale.dateSeparator.size());
+  const std::string_view separator = locale.dateSeparator;
+  if (!separator.empty() && text.starts_with(separator)) {
+    text.remove_prefix(separator.size());
     joint = Joint::Mark;
-  } else if (text.starts_with('/') || text.starts_with('-')) {
+  } else if (text.starts_with('/') || text.starts_with('-') ||
+             (text.starts_with('.') && separator.starts_with('.'))) {
     text.remove_prefix(1);
     joint = Joint::Mark;
   } else if (text.starts_with('.') || text.starts_with(',')) {
-    joint = text.front() == '.' ? Joint::Dot : Joint::Comma;
     text.remove_prefix(1);
+    joint = Joint::Stop;
   }
   TakeWhile(text, IsWhiteSpace);
   return joint;
@@ -128,12 +129,12 @@ std::optional<Parts> TakeParts(std::string_view text, const Locale& locale) {
   return std::nullopt;  // nothing, or a separator at the end
 }
 
-/// Two numbers, or three with commas, can as well be one number with its separators.
+/// Numbers between stops can as well be one number or a time, and two with a blank can be anything.
 bool IsJoinedAsDate(const Parts& parts) {
   if (parts.HasName()) return true;
   for (int i = 0; i + 1 < parts.count; ++i) {
     const Joint joint = parts.joint[static_cast<std::size_t>(i)];
-    if (joint == Joint::None || joint == Joint::Comma) return false;
+    if (joint == Joint::None || joint == Joint::Stop) return false;
     if (parts.count == 2 && joint != Joint::Mark) return false;
   }
   return true;
@@ -156,16 +157,16 @@ std::optional<int> ReadThree(const Parts& parts, const Locale& locale) {
   const auto& [first, second, third] = parts.part;
   const bool isYearFirst = first.IsLong() || (!third.IsLong() && !first.IsName() &&
                                               locale.dateOrder == DateOrder::YearFirst);
-  if (isYearFirst) return DayEitherWay(first.Year(), second, third);
+  if (isYearFirst) return DayEitherWay(first.Year(locale), second, third);
   if (third.IsName()) return std::nullopt;
-  if (IsDayFirst(locale)) return DayEitherWay(third.Year(), second, first);
-  return DayEitherWay(third.Year(), first, second);
+  if (IsDayFirst(locale)) return DayEitherWay(third.Year(locale), second, first);
+  return DayEitherWay(third.Year(locale), first, second);
 }
 
 /// The first day of a month.
-std::optional<int> ReadMonth(const Part& month, const Part& year) {
-  if (!IsDay(year.Year(), month.Month(), 1)) return std::nullopt;
-  return DayNumber(year.Year(), month.Month(), 1);
+std::optional<int> ReadMonth(const Part& month, const Part& year, const Locale& locale) {
+  if (!IsDay(year.Year(locale), month.Month(), 1)) return std::nullopt;
+  return DayNumber(year.Year(locale), month.Month(), 1);
 }
 
 /// Whether a number can be a day of some month.
@@ -178,7 +179,7 @@ std::optional<int> ReadTwo(const Parts& parts, const Locale& locale) {
   const bool isMonthSecond = second.IsName() || first.IsLong();
   const Part& month = isMonthSecond ? second : first;
   const Part& other = isMonthSecond ? first : second;
-  if (!other.IsName() && !CanBeDay(other)) return ReadMonth(month, other);
+  if (!other.IsName() && !CanBeDay(other)) return ReadMonth(month, other, locale);
   return IsDayFirst(locale) ? DayEitherWay(CurrentYear(), second, first)
                             : DayEitherWay(CurrentYear(), first, second);
 }

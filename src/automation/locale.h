@@ -17,6 +17,7 @@ struct Locale {
   std::string currencySymbol = "$";
   DateOrder dateOrder = DateOrder::MonthFirst;
   std::string dateSeparator = "/";
+  int lastTwoDigitYear = 2029;  ///< two digits stand for this year or one of the 99 before it
   std::string timeSeparator = ":";
   std::string shortDate = "m/d/yyyy";      ///< as a FormatDate pattern, for CStr of a date
   std::string longTime = "h:nn:ss AM/PM";  ///< as a FormatDate pattern, for CStr of a time

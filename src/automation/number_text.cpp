@@ -41,19 +41,6 @@ class Scanner {
   std::string_view rest_;
 };
 
-constexpr std::string_view kNoBreakSpace = "\u00A0";
-constexpr std::string_view kNarrowNoBreakSpace = "\u202F";
-
-/// People type a common blank where their locale groups digits by one that doesn't break the line.
-bool TakeThousandsSeparator(Scanner& scanner, const Locale& locale) {
-  const std::string& separator = locale.thousandsSeparator;
-  if (scanner.Take(separator)) return true;
-  if (separator != " " && separator != kNoBreakSpace && separator != kNarrowNoBreakSpace) {
-    return false;
-  }
-  return scanner.Take(' ') || scanner.Take(kNoBreakSpace) || scanner.Take(kNarrowNoBreakSpace);
-}
-
 /// What may stand around the digits, each at most once over both sides.
 struct Surroundings {
   bool hasSign = false;
@@ -105,6 +92,8 @@ bool ReadExponent(Scanner& scanner, std::string& digits) {
 
 /// Copies a decimal number without its thousands separators and with "." before its fraction.
 bool ReadDecimal(Scanner& scanner, const Locale& locale, std::string& digits) {
+  // People type a common blank where their locale groups digits by one that doesn't break the line.
+  const std::string thousandsSeparator = WithCommonBlanks(locale.thousandsSeparator);
   bool hasDigit = false;
   bool hasPoint = false;
   for (;;) {
@@ -114,7 +103,7 @@ bool ReadDecimal(Scanner& scanner, const Locale& locale, std::string& digits) {
     } else if (!hasPoint && scanner.Take(locale.decimalSeparator)) {
       digits += '.';
       hasPoint = true;
-    } else if (!hasDigit || !TakeThousandsSeparator(scanner, locale)) {
+    } else if (!hasDigit || !scanner.Take(thousandsSeparator)) {
       break;
     }
   }
@@ -125,17 +114,26 @@ bool ReadDecimal(Scanner& scanner, const Locale& locale, std::string& digits) {
   return true;
 }
 
-/// An integer behind "&H" or "&O": a pattern of at most 64 bits, the highest of which is the sign.
+/// The integer of a pattern: its 32nd bit is the sign, or beyond 32 bits the 64th.
+double SignedBits(std::uint64_t bits) {
+  constexpr auto kMostNarrow = std::numeric_limits<std::uint32_t>::max();
+  if (bits <= kMostNarrow) return static_cast<std::int32_t>(bits);
+  return static_cast<double>(static_cast<std::int64_t>(bits));
+}
+
+/// A pattern of at most 64 bits behind "&H" or "&O".
 NumberRead ReadBitPattern(Scanner& scanner, unsigned bitsPerDigit) {
   std::uint64_t bits = 0;
   bool hasDigit = false;
+  bool isTooLong = false;
   for (; DigitValue(scanner.Peek()) < (1U << bitsPerDigit); hasDigit = true) {
-    if (bits >> (64U - bitsPerDigit) != 0) return {ReadOutcome::Overflow};
+    isTooLong = isTooLong || bits >> (64U - bitsPerDigit) != 0;
     bits = (bits << bitsPerDigit) | DigitValue(scanner.Next());
   }
   scanner.SkipBlanks();
   if (!hasDigit || !scanner.AtEnd()) return {ReadOutcome::Mismatch};
-  return {ReadOutcome::Read, static_cast<double>(static_cast<std::int64_t>(bits)), true};
+  if (isTooLong) return {ReadOutcome::Overflow};
+  return {ReadOutcome::Read, SignedBits(bits), true, bits};
 }
 
 /// Where the first digit that isn't 0 stands: 1 for units, 0 for tenths; with the exponent added.
@@ -180,7 +178,8 @@ double DecimalValue(std::string_view digits) {
 }
 
 NumberRead ReadNumber(std::string_view text, const Locale& locale) {
-  Scanner scanner(text);
+  const std::string plain = WithCommonBlanks(text);
+  Scanner scanner(plain);
   Surroundings around;
   around.ReadBefore(scanner, locale);
   if (!around.hasSign && !around.hasCurrency && scanner.Take('&')) {

@@ -1,6 +1,7 @@
 // Numbers as texts of a locale. Private to this folder's sources.
 #pragma once
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,8 @@ enum class ReadOutcome { Read, Mismatch, Overflow };
 struct NumberRead {
   ReadOutcome outcome;
   double value = 0;
-  bool isBitPattern = false;  ///< "&H" or "&O": a narrower integer takes its highest bit as sign
+  bool isBitPattern = false;  ///< "&H" or "&O"
+  std::uint64_t bits = 0;     ///< of a bit pattern; an integer takes its own highest bit as sign
 };
 
 /// Reads a whole text as a number by the rules of ToDouble.

@@ -29,19 +29,22 @@ std::optional<int> TakeNumber(std::string_view& text) {
   return value;
 }
 
+/// At most one separator, and blanks around it.
 bool TakeSeparator(std::string_view& text, const Locale& locale) {
+  const std::string_view rest = TrimLeft(text);
   for (const std::string_view separator :
        {std::string_view(":"), std::string_view(locale.timeSeparator)}) {
-    if (separator.empty() || !text.starts_with(separator)) continue;
-    text.remove_prefix(separator.size());
+    if (separator.empty() || !rest.starts_with(separator)) continue;
+    text = TrimLeft(rest.substr(separator.size()));
     return true;
   }
   return false;
 }
 
+/// Hours from 13 are in the afternoon, whether or not the text says so again.
 std::optional<int> HourOfDay(int hour, Half half) {
-  if (half == Half::None) return hour <= 23 ? std::optional(hour) : std::nullopt;
-  if (hour < 1 || hour > 12) return std::nullopt;
+  if (hour > 23 || (hour > 12 && half == Half::Morning)) return std::nullopt;
+  if (hour > 12 || half == Half::None) return hour;
   return hour % 12 + (half == Half::Afternoon ? 12 : 0);
 }
 

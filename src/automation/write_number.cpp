@@ -2,6 +2,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstdlib>
+#include <limits>
 
 #include "automation/number_text.h"
 
@@ -9,6 +10,19 @@ namespace rangewerks::automation {
 namespace {
 
 constexpr int kSignificantDigits = 15;
+
+/// People round a half up, while the standard library rounds it to the even digit: a number that
+/// lies exactly halfway between two of 15 digits gives way to the next greater double.
+double WithHalfUp(double magnitude) {
+  constexpr std::size_t kPlaces = 40;  // zeros up to there go on to the end of any double
+  std::array<char, kPlaces + 8> buffer{};
+  char* const start = buffer.data();
+  std::to_chars(start, start + buffer.size(), magnitude, std::chars_format::scientific, kPlaces);
+  const std::string_view digits(start, kPlaces + 2);  // with the point behind the first
+  const std::string_view behind = digits.substr(kSignificantDigits + 1);
+  const bool isHalf = behind.front() == '5' && behind.find_first_not_of('0', 1) == behind.npos;
+  return isHalf ? std::nextafter(magnitude, std::numeric_limits<double>::infinity()) : magnitude;
+}
 
 /// "d.ddde±xx" with 15 significant digits, taken apart.
 struct Scientific {
@@ -20,7 +34,7 @@ struct Scientific {
 template <std::size_t N>
 Scientific ToScientific(double value, std::array<char, N>& buffer) {
   char* const start = buffer.data();
-  const auto [end, error] = std::to_chars(start, start + N, std::abs(value),
+  const auto [end, error] = std::to_chars(start, start + N, WithHalfUp(std::abs(value)),
                                           std::chars_format::scientific, kSignificantDigits - 1);
   const std::string_view text(start, static_cast<std::size_t>(end - start));
   const std::size_t mark = text.find('e');

@@ -152,13 +152,13 @@ TEST(ToBoolean, TakesAnyNumberButZeroForTrue) {
 }
 
 TEST(ToBoolean, ReadsItsTwoNamesAndNumbers) {
-  for (const char* text : {"True", "TRUE", "true", "1", "-1", "0,5", "&H1"}) {
+  for (const char* text : {"True", "TRUE", "true", "#TRUE#", "1", "-1", "0,5", "&H1"}) {
     EXPECT_TRUE(ToBoolean(text, DayFirst())) << text;
   }
-  for (const char* text : {"False", "FALSE", "false", "0", "0,0", "(0)"}) {
+  for (const char* text : {"False", "FALSE", "false", "#FALSE#", "0", "0,0", "(0)"}) {
     EXPECT_FALSE(ToBoolean(text, DayFirst())) << text;
   }
-  for (const char* text : {"", "yes", "no", "Y", " True", "True ", "Wahr", "0x"}) {
+  for (const char* text : {"", "yes", "no", "Y", " True", "True ", "#True#", "Wahr", "0x"}) {
     EXPECT_TRUE(ErrorOf([&] { ToBoolean(text, DayFirst()); }).Is(ErrorNumber::TypeMismatch))
         << text;
   }

@@ -43,7 +43,8 @@ const std::vector<DateRow>& DateRows() {
       {"31/12/9999", "9999-12-31"},
       {"1/1/100", "0100-01-01"},
       // separators
-      {"31.12.2024", "2024-12-31"},
+      {"31.12.2024", "", "2024-12-31", ""},
+      {"1.2.24", "", "2024-02-01", ""},
       {"31-12-2024", "2024-12-31"},
       {"31 12 2024", "2024-12-31"},
       {"31/12-2024", "2024-12-31"},
@@ -61,7 +62,7 @@ const std::vector<DateRow>& DateRows() {
       // the year first
       {"2024-01-31", "2024-01-31"},
       {"2024/1/31", "2024-01-31"},
-      {"2024.01.31", "2024-01-31"},
+      {"2024.01.31", "", "2024-01-31", ""},
       {"2024 01 31", "2024-01-31"},
       {"2024-01-02", "2024-01-02"},
       {"2024-31-01", "2024-01-31"},
@@ -153,7 +154,8 @@ const std::vector<DateRow>& DateRows() {
       {"x31/12/2024", ""},
       {"1/2/3/4", ""},
       {"1/2/2024 3", ""},
-      {"31\u00A012\u00A02024", ""},
+      {"31\u00A012\u00A02024", "2024-12-31"},
+      {"\u202F31/12/2024\u2009", "2024-12-31"},
       // times
       {"13:45", "1899-12-30T13:45:00"},
       {"13:45:30", "1899-12-30T13:45:30"},
@@ -178,9 +180,13 @@ const std::vector<DateRow>& DateRows() {
       {"111:00", ""},
       {"1:111", ""},
       {"99999999999999999999:00", ""},
-      {"13:45 PM", ""},
-      {"0:30 AM", ""},
-      {"13 PM", ""},
+      {"13:45 PM", "1899-12-30T13:45:00"},
+      {"13:45 AM", ""},
+      {"0:30 AM", "1899-12-30T00:30:00"},
+      {"0:30 PM", "1899-12-30T12:30:00"},
+      {"13 : 45 : 30", "1899-12-30T13:45:30"},
+      {"13 PM", "1899-12-30T13:00:00"},
+      {"24 PM", ""},
       {"PM", ""},
       {"3 XM", ""},
       {"3 PM PM", ""},
@@ -242,6 +248,25 @@ TEST(TextToDate, TakesTheCurrentYearWhereThereIsNone) {
   EXPECT_EQ(ToDate("Jan 5", DayFirst()), DateOf(year, 1, 5));
   EXPECT_EQ(ToDate("5 Dez.", DayFirst()), DateOf(year, 12, 5));
   EXPECT_EQ(ToDate("5 Jan 06:00", YearFirst()).serial, DateOf(year, 1, 5).serial + 0.25);
+}
+
+TEST(TextToDate, TakesTwoDigitsForAYearOfTheHundredThatTheLocaleEndsWithItsLast) {
+  Locale locale = MonthFirst();
+  locale.lastTwoDigitYear = 2049;
+  EXPECT_EQ(IsoDate(ToDate("1/2/00", locale)), "2000-01-02");
+  EXPECT_EQ(IsoDate(ToDate("1/2/49", locale)), "2049-01-02");
+  EXPECT_EQ(IsoDate(ToDate("1/2/50", locale)), "1950-01-02");
+  EXPECT_EQ(IsoDate(ToDate("Jan 45", locale)), "2045-01-01");
+  locale.lastTwoDigitYear = 1999;
+  EXPECT_EQ(IsoDate(ToDate("1/2/00", locale)), "1900-01-02");
+  EXPECT_EQ(IsoDate(ToDate("1/2/99", locale)), "1999-01-02");
+}
+
+TEST(TextToDate, ReadsNumbersWithPointsWhereTheSeparatorOfDatesStartsWithAPoint) {
+  Locale locale = DayFirst();
+  locale.dateSeparator = ". ";
+  EXPECT_EQ(IsoDate(ToDate("31. 12. 2024", locale)), "2024-12-31");
+  EXPECT_EQ(IsoDate(ToDate("31.12.2024", locale)), "2024-12-31");
 }
 
 TEST(TextToDate, ReadsTwoNumbersWithAPointAsDateOnlyWhereThePointSeparatesDates) {

@@ -69,7 +69,9 @@ const std::vector<NumberRow>& NumberRows() {
       {"\t7\r\n", 7},
       {"", kMismatch},
       {" ", kMismatch},
-      {"\u00A07", kMismatch},
+      {"\u00A07\u202F", 7},
+      {"\u2009-\u30007", -7},
+      {"\u200B7", kMismatch},
       // separators
       {".", kMismatch},
       {",", kMismatch},
@@ -107,6 +109,7 @@ const std::vector<NumberRow>& NumberRows() {
       {"$", kMismatch},
       {"5€", kMismatch, 5, kMismatch},
       {"1.234,56 €", kMismatch, 1234.56, kMismatch},
+      {"1.234,56\u00A0€", kMismatch, 1234.56, kMismatch},
       {"5 €-", kMismatch, -5, kMismatch},
       {"5 kr", kMismatch, kMismatch, 5},
       {"5 KR", kMismatch},
@@ -137,9 +140,16 @@ const std::vector<NumberRow>& NumberRows() {
       {"&O17", 15},
       {"&o17", 15},
       {"&HFFFF", 65535},
-      {"&HFFFFFFFF", 4294967295.0},
+      {"&H7FFFFFFF", 2147483647.0},
+      {"&H80000000", -2147483648.0},
+      {"&HFFFFFFFF", -1},
+      {"&H0FFFFFFFF", -1},
+      {"&H100000000", 4294967296.0},
+      {"&H7FFFFFFFFFFFFFFF", 9223372036854775807.0},
+      {"&H8000000000000000", -9223372036854775808.0},
       {"&HFFFFFFFFFFFFFFFF", -1},
       {"&H1FFFFFFFFFFFFFFFF", kOverflow},
+      {"&H1FFFFFFFFFFFFFFFFG", kMismatch},
       {"&H", kMismatch},
       {"&", kMismatch},
       {"&10", kMismatch},
@@ -257,6 +267,8 @@ TEST(NumberToWhole, TakesTheHighestBitOfAPatternAsSign) {
   EXPECT_EQ(ToLong("&HFFFF", Locale()), 65535);
   EXPECT_EQ(ToLong("&HFFFFFFFF", Locale()), -1);
   EXPECT_EQ(ToLong("&HF060", Locale()), 61536);
+  EXPECT_TRUE(ErrorOf([] { ToInteger("&HFFFFFFFF", Locale()); }).Is(ErrorNumber::Overflow));
+  EXPECT_TRUE(ErrorOf([] { ToLong("&HFFFFFFFFFFFFFFFF", Locale()); }).Is(ErrorNumber::Overflow));
   EXPECT_TRUE(ErrorOf([] { ToLong("&H100000000", Locale()); }).Is(ErrorNumber::Overflow));
   EXPECT_TRUE(ErrorOf([] { ToInteger("65535", Locale()); }).Is(ErrorNumber::Overflow));
 }
@@ -295,6 +307,17 @@ TEST(DoubleToText, HasFifteenSignificantDigits) {
       {kMismatch, "1.#QNAN"},
   };
   for (const auto& [value, expected] : rows) EXPECT_EQ(ToString(value, MonthFirst()), expected);
+}
+
+TEST(DoubleToText, RoundsWhatIsExactlyHalfwayUp) {
+  EXPECT_EQ(ToString(140737488355328.5, MonthFirst()), "140737488355329");
+  EXPECT_EQ(ToString(-140737488355328.5, MonthFirst()), "-140737488355329");
+  EXPECT_EQ(ToString(0.5000152587890625, MonthFirst()), "0.500015258789063");
+  EXPECT_EQ(ToString(2.384185791015625e-07, MonthFirst()), "2.38418579101563E-07");
+  EXPECT_EQ(ToString(1125899906842625.0, MonthFirst()), "1.12589990684263E+15");
+  EXPECT_EQ(ToString(10000000000000050.0, MonthFirst()), "1.00000000000001E+16");
+  EXPECT_EQ(ToString(1.100000000000005, MonthFirst()), "1.1") << "a little below the half";
+  EXPECT_EQ(ToString(1.000000000000005, MonthFirst()), "1.00000000000001") << "a little above";
 }
 
 TEST(DoubleToText, HasTheDecimalSeparatorOfTheLocaleAndNoOther) {
