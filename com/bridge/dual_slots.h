@@ -113,6 +113,16 @@ template <class P>
 inline constexpr bool kIsPlace =
     std::is_pointer_v<P> && !std::is_same_v<P, BSTR> && !InterfaceType<std::remove_pointer_t<P>>;
 
+/// Whether the caller gave no place where one belongs.
+template <class P>
+bool LacksPlace([[maybe_unused]] const P& parameter) {
+  if constexpr (kIsPlace<P>) {
+    return parameter == nullptr;
+  } else {
+    return false;
+  }
+}
+
 template <class P>
 Variant ReadParameter(P& parameter, TypeCode type) {
   if constexpr (kIsPlace<P>) {
@@ -135,11 +145,11 @@ HRESULT CarrySlot(const DispatchFace& face, P&... parameters) noexcept {
       return i < entry.arguments.size() ? entry.arguments[i].type : entry.result;
     };
 
-    if (((kIsPlace<P> && parameters == nullptr) || ...)) return E_POINTER;
+    if ((LacksPlace(parameters) || ...)) return E_POINTER;
     std::array<Variant, kCount + 1> variables;
     std::array<Argument, kCount + 1> arguments;
     const auto take = [&]<std::size_t... I>(std::index_sequence<I...> /*positions*/) {
-      const auto takeOne = [&](std::size_t i, auto& parameter) {
+      [[maybe_unused]] const auto takeOne = [&](std::size_t i, auto& parameter) {
         if (i >= given) return;
         variables.at(i) = ReadParameter(parameter, typeOf(i));
         const bool inOut = i < entry.arguments.size() && entry.arguments[i].inOut;
@@ -151,7 +161,7 @@ HRESULT CarrySlot(const DispatchFace& face, P&... parameters) noexcept {
     };
     take(std::index_sequence_for<P...>());
     const auto writeBack = [&]<std::size_t... I>(std::index_sequence<I...> /*positions*/) {
-      const auto writeOne = [&](std::size_t i, [[maybe_unused]] auto& parameter) {
+      [[maybe_unused]] const auto writeOne = [&](std::size_t i, [[maybe_unused]] auto& parameter) {
         if constexpr (kIsPlace<std::remove_reference_t<decltype(parameter)>>) {
           if (i < given && arguments.at(i).IsReference()) Write(parameter, variables.at(i));
         }
