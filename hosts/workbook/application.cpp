@@ -3,7 +3,9 @@
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/range.h"
+#include "hosts/workbook/shape.h"
 #include "hosts/workbook/sheets.h"
+#include "hosts/workbook/testing.h"
 #include "hosts/workbook/workbook.h"
 #include "hosts/workbook/workbooks.h"
 #include "hosts/workbook/worksheet.h"
@@ -12,6 +14,7 @@ namespace rangewerks::hosts::workbook {
 namespace {
 
 const automation::Member kType{"Application"};
+const automation::Member kTesting{"Testing"};
 
 std::shared_ptr<Range> RangeArgument(const Variant& value) {
   auto range = value.IsObject() ? value.AsObject().As<Range>() : nullptr;
@@ -41,13 +44,31 @@ const MemberTable& Application::Members() const {
                "The sheets of the active workbook.")
           .Get(6, "ActiveWorkbook", &Application::GetActiveWorkbook, "The workbook in front.")
           .Get(7, "ActiveSheet", &Application::GetActiveSheet, "The sheet in front.")
-          .Get(8, "Selection", &Application::GetSelection, "The selected cells.")
+          .Get(8, "Selection", &Application::GetSelection, "What is selected: cells, or a shape.")
           .Get(9, "International", &Application::GetInternational, {"Index"},
                "A fact of the locale.")
           .Get(10, "Application", &Application::GetApplication, "The application.")
           .Method(11, "Intersect", &Application::Intersect, {"Arg1", "Arg2"},
-                  "The cells that both ranges have, or nothing.");
+                  "The cells that both ranges have, or nothing.")
+          .Get(12, "Range", &Application::GetRange, {"Cell1", Optional("Cell2")},
+               "The cells of a name or address of the sheet in front.")
+          .Get(13, "Cells", &Application::GetCells, {Optional("RowIndex"), Optional("ColumnIndex")},
+               "All cells of the sheet in front, or one of them.")
+          .Get(14, "Testing", &Application::GetTesting,
+               "The calls made, failures on request, and what else only a test needs.");
   return table;
+}
+
+Variant Application::Invoke(const Invocation& call) {
+  return call.member == kTesting ? Carry(call) : ModelObject::Invoke(call);
+}
+
+Variant Application::Carry(const Invocation& call) {
+  if (WritesToCells(call)) {
+    LetValueOf(Carry(AsRead(call)), call.positional.back().Value());
+    return {};
+  }
+  return ModelObject::Carry(call);
 }
 
 Book& Application::ActiveBook() const {
@@ -84,6 +105,7 @@ Variant Application::GetActiveSheet() const {
 Variant Application::GetSelection() const {
   if (Shared()->active == nullptr) return Object();
   const SheetPointer& sheet = ActiveBook().active;
+  if (sheet->shapeSelected) return std::make_shared<Shape>(Shared(), sheet);
   return std::make_shared<Range>(Shared(), sheet, sheet->selection);
 }
 
@@ -92,6 +114,16 @@ Variant Application::GetInternational(const Variant& index) const {
 }
 
 Variant Application::GetApplication() const { return Of(Shared()); }
+
+Variant Application::GetRange(const Variant& first, const Variant& second) const {
+  return Worksheet::Of(Shared(), ActiveBook().active)->GetRange(first, second);
+}
+
+Variant Application::GetCells(const Variant& row, const Variant& column) const {
+  return Worksheet::Of(Shared(), ActiveBook().active)->GetCells(row, column);
+}
+
+Variant Application::GetTesting() const { return std::make_shared<Testing>(Host(Shared())); }
 
 Variant Application::Intersect(const Variant& first, const Variant& second) const {
   const auto one = RangeArgument(first);

@@ -12,6 +12,11 @@ class Application final : public ModelObject {
   static std::shared_ptr<Application> Of(const SessionPointer& session);
 
   const MemberTable& Members() const override;
+  /// Passes Testing by the call log: to look at it must not change it.
+  Variant Invoke(const Invocation& call) override;
+
+ protected:
+  Variant Carry(const Invocation& call) override;
 
  private:
   Variant GetName() const;
@@ -24,6 +29,9 @@ class Application final : public ModelObject {
   Variant GetSelection() const;
   Variant GetInternational(const Variant& index) const;
   Variant GetApplication() const;
+  Variant GetRange(const Variant& first, const Variant& second) const;
+  Variant GetCells(const Variant& row, const Variant& column) const;
+  Variant GetTesting() const;
   Variant Intersect(const Variant& first, const Variant& second) const;
 
   /// Raises 1004 when no workbook is open.

@@ -31,6 +31,7 @@ class CallLog {
  public:
   /// Switches the writing of lines on or off; off at first.
   void LogCalls(bool on) { logging_ = on; }
+  bool IsLogging() const noexcept { return logging_; }
   /// The calls made while logging was on, oldest first: `Worksheet.Range get "Sheet1__Code"`,
   /// `Range.Cells get 3, 1`, `Range.Value let 12.5`, `Names.Add call Name:="x", RefersTo:="=A1"`,
   /// `Names enumerate`. Texts stand in double quotes, their own doubled; objects as their type

@@ -29,7 +29,8 @@ void ChangeCell(const Object& cell, Change change) {
 
 }  // namespace
 
-Host::Host() : session_(std::make_shared<Session>()) {}
+Host::Host() : Host(std::make_shared<Session>()) {}
+Host::Host(std::shared_ptr<Session> session) : session_(std::move(session)) {}
 Host::~Host() = default;
 Host::Host(Host&&) noexcept = default;
 Host& Host::operator=(Host&&) noexcept = default;
@@ -70,6 +71,14 @@ void Host::SetInternational(std::int32_t index, const Variant& value) {
 }
 
 void Host::SetVersion(const std::string& version) { session_->version = version; }
+
+void Host::TrustVBProject(bool trusted) { session_->trustsMacroProject = trusted; }
+bool Host::TrustsVBProject() const { return session_->trustsMacroProject; }
+
+void Host::SelectShape() {
+  if (session_->active == nullptr) Refuse("No workbook is open");
+  session_->active->active->shapeSelected = true;
+}
 
 automation::Locale Host::CurrentLocale() const { return session_->international.CurrentLocale(); }
 

@@ -24,7 +24,8 @@ using automation::Variant;
 
 struct Session;
 
-/// One spreadsheet program with its workbooks. Objects that it has handed out keep working after it
+/// One spreadsheet program with its workbooks; late-bound callers reach the rest of it as
+/// Application.Testing. Objects that it has handed out keep working after it
 /// is gone. Used from one thread. What it refuses it raises as error 1004 with source "Workbook"
 /// (an element that Sheets or Workbooks lack as 9), and words that say what and where.
 class Host {
@@ -52,6 +53,8 @@ class Host {
   /// - Not there: multiple selections, protection, insertion and deletion of cells, and all of the
   ///   object model that isn't listed in docs/hosts.md; such members raise 438.
   Host();
+  /// Another hold on a program, for the objects that it hands out.
+  explicit Host(std::shared_ptr<Session> session);
   ~Host();
   Host(Host&&) noexcept;
   Host& operator=(Host&&) noexcept;
@@ -81,6 +84,13 @@ class Host {
   void SetInternational(std::int32_t index, const Variant& value);
   /// What Application.Version tells; "16.0" at first.
   void SetVersion(const std::string& version);
+  /// Whether Workbook.VBProject answers as in a program that trusts access to macros: then 438, for
+  /// there are no macros here; else, and at first, 1004.
+  void TrustVBProject(bool trusted);
+  bool TrustsVBProject() const;
+  /// Makes Application.Selection a drawn rectangle until cells of the sheet in front are selected.
+  /// Raises 1004 when no workbook is open.
+  void SelectShape();
   /// The locale under which typed texts are read: that of the process until a file or
   /// SetInternational has changed something.
   automation::Locale CurrentLocale() const;

@@ -30,12 +30,12 @@ void Book::RequireFreeName(const std::string& sheetName, const Sheet* except) co
   }
 }
 
-SheetPointer Book::AddSheet(const std::string& sheetName) {
+SheetPointer Book::AddSheet(const std::string& sheetName, const SheetPointer& before) {
   RequireFreeName(sheetName, nullptr);
   auto sheet = std::make_shared<Sheet>();
   sheet->book = this;
   sheet->name = sheetName;
-  sheets.push_back(sheet);
+  sheets.insert(std::find(sheets.begin(), sheets.end(), before), sheet);
   return sheet;
 }
 

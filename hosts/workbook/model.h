@@ -25,7 +25,8 @@ struct Sheet {
   std::string name;
   Grid grid;
   Area selection{1, 1};
-  bool deleted = false;  ///< those who still hold it are refused everything
+  bool shapeSelected = false;  ///< instead of cells
+  bool deleted = false;        ///< those who still hold it are refused everything
   std::weak_ptr<automation::Dispatch> face;
 };
 
@@ -42,8 +43,8 @@ struct Book {
 
   /// The sheet of that name without regard to case, or null.
   SheetPointer FindSheet(std::string_view sheetName) const;
-  /// Adds a sheet at the end. Raises 1004 for a name that it can't have.
-  SheetPointer AddSheet(const std::string& sheetName);
+  /// Adds a sheet ahead of another one, or at the end. Raises 1004 for a name that it can't have.
+  SheetPointer AddSheet(const std::string& sheetName, const SheetPointer& before = nullptr);
   void RenameSheet(const SheetPointer& sheet, const std::string& sheetName);
   /// Takes a sheet out: references to it turn into #REF!, names that belong to it go. Raises 1004
   /// for the last sheet.
@@ -58,6 +59,7 @@ struct Session {
   CallLog calls;
   International international;
   std::string version = "16.0";
+  bool trustsMacroProject = false;
   std::vector<std::unique_ptr<Book>> books;  ///< never shrinks: objects point into it
   Book* active = nullptr;
   std::weak_ptr<automation::Dispatch> face;

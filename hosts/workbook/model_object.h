@@ -17,7 +17,7 @@ using automation::Object;
 /// been deleted. Keeps the whole model alive.
 class ModelObject : public automation::AutomationClass {
  public:
-  Variant Invoke(const Invocation& call) final;
+  Variant Invoke(const Invocation& call) override;
   std::unique_ptr<Enumerator> Enumerate() final;
 
  protected:

@@ -17,6 +17,7 @@ using automation::Member;
 const Member kType{"Range"};
 const Member kItem{"Item"};
 const Member kCells{"Cells"};
+const Member kRange{"Range"};
 
 bool ReadsThenWrites(const Invocation& call) {
   if (call.kind != CallKind::Let) return false;
@@ -213,9 +214,15 @@ void Range::Select() {
     Refuse(Place() + " can't be selected: its sheet isn't the active one");
   }
   sheet_->selection = area_;
+  sheet_->shapeSelected = false;
 }
 
 // --- late-bound writes through a read ------------------------------------------------------------
+
+bool WritesToCells(const Invocation& call) {
+  return call.kind == CallKind::Let && call.positional.size() > 1 &&
+         (call.member == kRange || call.member == kCells);
+}
 
 void LetValueOf(const Variant& range, const Variant& value) {
   range.AsObject().As<Range>()->LetValue(value);

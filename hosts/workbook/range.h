@@ -71,6 +71,8 @@ class Range final : public ModelObject {
   Elements elements_;
 };
 
+/// Whether a call writes to the cells that Range or Cells gives: `sheet.Cells(1, 2) = 5`.
+bool WritesToCells(const Invocation& call);
 /// Writes a value to the cells of a Range that a call has given back: what `sheet.Cells(1, 2) = 5`
 /// means to a caller that binds late.
 void LetValueOf(const Variant& range, const Variant& value);

@@ -1,5 +1,7 @@
 #include "hosts/workbook/sheets.h"
 
+#include <algorithm>
+
 #include "hosts/workbook/application.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/workbook.h"
@@ -21,7 +23,9 @@ const MemberTable& Sheets::Members() const {
           .Get(0, "Item", &Sheets::GetItem, {"Index"}, "The sheet of that name or position.")
           .Get(1, "Count", &Sheets::GetCount, "Number of sheets.")
           .Get(2, "Parent", &Sheets::GetParent, "The workbook.")
-          .Get(3, "Application", &Sheets::GetApplication, "The application.");
+          .Get(3, "Application", &Sheets::GetApplication, "The application.")
+          .Method(4, "Add", &Sheets::Add, {Optional("Before"), Optional("After")},
+                  "A new sheet, in front; ahead of the one that was, unless told otherwise.");
   return table;
 }
 
@@ -44,6 +48,33 @@ Variant Sheets::GetItem(const Variant& index) const {
 Variant Sheets::GetCount() const { return static_cast<std::int32_t>(book_->sheets.size()); }
 Variant Sheets::GetParent() const { return Workbook::Of(Shared(), book_); }
 Variant Sheets::GetApplication() const { return Application::Of(Shared()); }
+
+SheetPointer Sheets::SheetArgument(const Variant& value) const {
+  const auto sheet = value.IsObject() ? value.AsObject().As<Worksheet>() : nullptr;
+  if (!sheet || sheet->Data()->book != book_ || sheet->Data()->deleted) {
+    Refuse("A sheet is added before or after a sheet of workbook \"" + book_->name +
+           "\", not a value of the type " + value.TypeName() +
+           (sheet ? " that isn't one of its" : ""));
+  }
+  return sheet->Data();
+}
+
+Variant Sheets::Add(const Variant& before, const Variant& after) {
+  if (!before.IsMissing() && !after.IsMissing()) {
+    Refuse("A sheet is added before another one or after it, not both");
+  }
+  SheetPointer follower = book_->active;
+  if (!before.IsMissing()) follower = SheetArgument(before);
+  auto& sheets = book_->sheets;
+  if (!after.IsMissing()) {
+    const auto next = std::find(sheets.begin(), sheets.end(), SheetArgument(after)) + 1;
+    follower = next == sheets.end() ? nullptr : *next;
+  }
+  std::size_t number = sheets.size() + 1;
+  while (book_->FindSheet("Sheet" + std::to_string(number))) ++number;
+  book_->active = book_->AddSheet("Sheet" + std::to_string(number), follower);
+  return Worksheet::Of(Shared(), book_->active);
+}
 
 std::unique_ptr<Enumerator> Sheets::Walk() {
   std::vector<Variant> sheets;

@@ -17,6 +17,8 @@ class Sheets final : public ModelObject {
   std::unique_ptr<Enumerator> Walk() override;
 
  private:
+  Variant Add(const Variant& before, const Variant& after);
+  SheetPointer SheetArgument(const Variant& value) const;
   Variant GetCount() const;
   Variant GetParent() const;
   Variant GetApplication() const;

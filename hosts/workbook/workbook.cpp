@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "hosts/workbook/application.h"
+#include "hosts/workbook/failure.h"
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/sheets.h"
 #include "hosts/workbook/worksheet.h"
@@ -33,7 +34,9 @@ const MemberTable& Workbook::Members() const {
           .Get(7, "ActiveSheet", &Workbook::GetActiveSheet, "The sheet in front.")
           .Get(8, "Application", &Workbook::GetApplication, "The application.")
           .Get(9, "Parent", &Workbook::GetApplication, "The application.")
-          .Method(10, "Activate", &Workbook::Activate, {}, "Brings the workbook to the front.");
+          .Method(10, "Activate", &Workbook::Activate, {}, "Brings the workbook to the front.")
+          .Get(11, "VBProject", &Workbook::GetVBProject,
+               "The macro project; refused until access to it is trusted.");
   return table;
 }
 
@@ -55,6 +58,14 @@ Variant Workbook::GetSheets(const Variant& index) const {
 
 Variant Workbook::GetActiveSheet() const { return Worksheet::Of(Shared(), book_->active); }
 Variant Workbook::GetApplication() const { return Application::Of(Shared()); }
+
+Variant Workbook::GetVBProject() const {
+  if (!Shared()->trustsMacroProject) {
+    Refuse("Programmatic access to Visual Basic Project is not trusted");
+  }
+  throw automation::Error(automation::ErrorNumber::MemberNotFound);  // there are no macros here
+}
+
 void Workbook::Activate() { Shared()->active = book_; }
 
 }  // namespace rangewerks::hosts::workbook

@@ -22,6 +22,7 @@ class Workbook final : public ModelObject {
   Variant GetSheets(const Variant& index) const;
   Variant GetActiveSheet() const;
   Variant GetApplication() const;
+  Variant GetVBProject() const;
   void Activate();
 
   Book* book_;

@@ -12,12 +12,7 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-using automation::CallKind;
-using automation::Member;
-
-const Member kType{"Worksheet"};
-const Member kRange{"Range"};
-const Member kCells{"Cells"};
+const automation::Member kType{"Worksheet"};
 
 constexpr Area kWholeSheet{1, 1, kSheetRows, kSheetColumns};
 
@@ -55,8 +50,7 @@ void Worksheet::RequireAlive() const {
 }
 
 Variant Worksheet::Carry(const Invocation& call) {
-  const bool writes = call.kind == CallKind::Let && call.positional.size() > 1;
-  if (writes && (call.member == kRange || call.member == kCells)) {
+  if (WritesToCells(call)) {
     LetValueOf(Carry(AsRead(call)), call.positional.back().Value());
     return {};
   }

@@ -14,6 +14,9 @@ class Worksheet final : public ModelObject {
   const MemberTable& Members() const override;
   const SheetPointer& Data() const noexcept { return sheet_; }
 
+  Variant GetRange(const Variant& first, const Variant& second) const;
+  Variant GetCells(const Variant& row, const Variant& column) const;
+
  protected:
   Variant Carry(const Invocation& call) override;
   void RequireAlive() const override;
@@ -22,8 +25,6 @@ class Worksheet final : public ModelObject {
   Variant GetName() const;
   void LetName(const Variant& name);
   Variant GetIndex() const;
-  Variant GetRange(const Variant& first, const Variant& second) const;
-  Variant GetCells(const Variant& row, const Variant& column) const;
   Variant GetNames(const Variant& index) const;
   Variant GetParent() const;
   Variant GetApplication() const;
