@@ -1,41 +1,46 @@
 #include "platform/excel.h"
 
-#include "automation/conversions.h"
 #include "automation/dispatch.h"
+#include "platform/excel_format.h"
+#include "platform/typed_call.h"
 
 namespace rangewerks::excel {
 namespace {
 
-using automation::Locale;
 using automation::Member;
 
 const Member kAddress{"Address"};
 const Member kApplication{"Application"};
+const Member kAutoFit{"AutoFit"};
+const Member kBorders{"Borders"};
 const Member kCells{"Cells"};
 const Member kClearContents{"ClearContents"};
+const Member kColumnWidth{"ColumnWidth"};
 const Member kColumns{"Columns"};
 const Member kCount{"Count"};
 const Member kDelete{"Delete"};
+const Member kEntireColumn{"EntireColumn"};
+const Member kFont{"Font"};
+const Member kFormatConditions{"FormatConditions"};
 const Member kFormula{"Formula"};
 const Member kHasFormula{"HasFormula"};
+const Member kHorizontalAlignment{"HorizontalAlignment"};
+const Member kInterior{"Interior"};
 const Member kInternational{"International"};
 const Member kIntersect{"Intersect"};
 const Member kItem{"Item"};
-const Member kName{"Name"};
 const Member kNames{"Names"};
+const Member kName{"Name"};
+const Member kNumberFormat{"NumberFormat"};
+const Member kOffset{"Offset"};
 const Member kParent{"Parent"};
 const Member kRange{"Range"};
 const Member kRefersToRange{"RefersToRange"};
+const Member kResize{"Resize"};
 const Member kRows{"Rows"};
+const Member kValidation{"Validation"};
 const Member kValue{"Value"};
-
-/// A result that is an object, as its typed reference.
-template <class Proxy>
-Proxy Typed(const Variant& result) {
-  return Proxy(result.AsObject());
-}
-
-std::string Text(const Variant& result) { return ToString(result, Locale::Current()); }
+const Member kWrapText{"WrapText"};
 
 }  // namespace
 
@@ -49,15 +54,37 @@ Variant Range::get_Default() const { return Get(Member::Default()); }
 std::string Range::get_Formula() const { return Text(Get(kFormula)); }
 bool Range::get_HasFormula() const {
   const Variant result = Get(kHasFormula);
-  return !result.IsNull() && ToBoolean(result, Locale::Current());
+  return !result.IsNull() && ToBoolean(result, automation::Locale::Current());
 }
 void Range::ClearContents() const { Call(kClearContents); }
 std::string Range::get_Address() const { return Text(Get(kAddress)); }
+Range Range::get_Resize(std::int32_t rows) const { return Typed<Range>(Get(kResize, {rows})); }
+Range Range::get_Offset(std::int32_t rows) const { return Typed<Range>(Get(kOffset, {rows})); }
+Range Range::get_EntireColumn() const { return Typed<Range>(Get(kEntireColumn)); }
 Range Range::get_Rows() const { return Typed<Range>(Get(kRows)); }
 Range Range::get_Columns() const { return Typed<Range>(Get(kColumns)); }
-std::int32_t Range::get_Count() const { return ToLong(Get(kCount), Locale::Current()); }
+std::int32_t Range::get_Count() const { return Long(Get(kCount)); }
 void Range::let_Name(const std::string& name) const { Let(kName, name); }
 Worksheet Range::get_Parent() const { return Typed<Worksheet>(Get(kParent)); }
+void Range::let_NumberFormat(const std::string& format) const { Let(kNumberFormat, format); }
+void Range::let_HorizontalAlignment(HorizontalAlignment alignment) const {
+  Let(kHorizontalAlignment, static_cast<std::int32_t>(alignment));
+}
+void Range::let_WrapText(bool wraps) const { Let(kWrapText, wraps); }
+void Range::let_ColumnWidth(double characters) const { Let(kColumnWidth, characters); }
+void Range::AutoFit() const { Call(kAutoFit); }
+Font Range::get_Font() const { return Typed<Font>(Get(kFont)); }
+Interior Range::get_Interior() const { return Typed<Interior>(Get(kInterior)); }
+Border Range::get_Borders(BordersIndex index) const {
+  return Typed<Border>(Get(kBorders, {static_cast<std::int32_t>(index)}));
+}
+Validation Range::get_Validation() const { return Typed<Validation>(Get(kValidation)); }
+FormatConditions Range::get_FormatConditions() const {
+  return Typed<FormatConditions>(Get(kFormatConditions));
+}
+FormatCondition Range::get_FormatConditions(std::int32_t index) const {
+  return Typed<FormatCondition>(Get(kFormatConditions, {index}));
+}
 
 std::string Name::get_Name() const { return Text(Get(kName)); }
 void Name::let_Name(const std::string& name) const { Let(kName, name); }

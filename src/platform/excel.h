@@ -22,11 +22,18 @@ using automation::Object;
 using automation::Variant;
 
 class Application;
+class Border;
+class Font;
+class FormatCondition;
+class FormatConditions;
+class Interior;
 class Range;
+class Validation;
 class Workbook;
 class Worksheet;
 
-/// A block of cells. Positions within it count from 1.
+/// A block of cells. Positions within it count from 1. What its format is made of stands in
+/// excel_format.h.
 class Range : public Object {
  public:
   using Object::Object;
@@ -49,6 +56,13 @@ class Range : public Object {
   void ClearContents() const;
   /// The absolute address: "$C$3", and for a block "$C$3:$C$10".
   std::string get_Address() const;
+  /// That many rows from the same first cell, in the same width. Fails below one row, and beyond
+  /// the sheet.
+  Range get_Resize(std::int32_t rows) const;
+  /// As many cells that many rows further down; -1 is the row above. Fails, as an answer, above
+  /// row 1.
+  Range get_Offset(std::int32_t rows) const;
+  Range get_EntireColumn() const;
   Range get_Rows() const;
   Range get_Columns() const;
   /// The number of elements: of rows behind get_Rows, of columns behind get_Columns.
@@ -57,6 +71,24 @@ class Range : public Object {
   void let_Name(const std::string& name) const;
   /// The sheet that the cells lie on.
   Worksheet get_Parent() const;
+
+  /// The format text, in the host's format language; an empty text takes the format away.
+  void let_NumberFormat(const std::string& format) const;
+  void let_HorizontalAlignment(HorizontalAlignment alignment) const;
+  void let_WrapText(bool wraps) const;
+  /// In characters of the standard font; 0 hides the columns.
+  void let_ColumnWidth(double characters) const;
+  /// Makes whole columns as wide as what they show.
+  void AutoFit() const;
+  Font get_Font() const;
+  Interior get_Interior() const;
+  /// One edge, or the lines inside. Fails, here or when it is drawn, where there is no inside.
+  Border get_Borders(BordersIndex index) const;
+  /// There also when the cells have no rule.
+  Validation get_Validation() const;
+  FormatConditions get_FormatConditions() const;
+  /// The condition at that position from 1. Fails, as an answer, when there is none.
+  FormatCondition get_FormatConditions(std::int32_t index) const;
 };
 
 /// A defined name of a workbook or of one sheet.
