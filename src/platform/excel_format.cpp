@@ -36,7 +36,7 @@ Variant Number(Constant constant) {
 
 void Interior::let_Color(std::int32_t color) const { Let(kColor, color); }
 Variant Interior::get_ColorIndex() const { return Get(kColorIndex); }
-void Interior::let_ColorIndex(ColorIndex index) const { Let(kColorIndex, Number(index)); }
+void Interior::let_ColorIndex(std::int32_t index) const { Let(kColorIndex, index); }
 
 void Font::let_Bold(bool isBold) const { Let(kBold, isBold); }
 

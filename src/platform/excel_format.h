@@ -19,9 +19,10 @@ class Interior : public Object {
   explicit Interior(const Object& object) : Object(object) {}
 
   void let_Color(std::int32_t color) const;
-  /// xlColorIndexNone for no fill; null when the cells differ.
+  /// The number of the nearest colour of the host's palette, xlColorIndexNone for no fill, and null
+  /// when the cells differ.
   Variant get_ColorIndex() const;
-  void let_ColorIndex(ColorIndex index) const;
+  void let_ColorIndex(std::int32_t index) const;
 };
 
 class Font : public Object {
