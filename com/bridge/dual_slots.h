@@ -113,20 +113,11 @@ template <class P>
 inline constexpr bool kIsPlace =
     std::is_pointer_v<P> && !std::is_same_v<P, BSTR> && !InterfaceType<std::remove_pointer_t<P>>;
 
-/// Whether the caller gave no place where one belongs.
-template <class P>
-bool LacksPlace([[maybe_unused]] const P& parameter) {
-  if constexpr (kIsPlace<P>) {
-    return parameter == nullptr;
-  } else {
-    return false;
-  }
-}
-
+/// No place at all is how a C++ caller leaves an optional one out.
 template <class P>
 Variant ReadParameter(P& parameter, TypeCode type) {
   if constexpr (kIsPlace<P>) {
-    return Read(*parameter, type);
+    return parameter == nullptr ? Variant::Missing() : Read(*parameter, type);
   } else {
     return Read(parameter, type);
   }
@@ -145,7 +136,12 @@ HRESULT CarrySlot(const DispatchFace& face, P&... parameters) noexcept {
       return i < entry.arguments.size() ? entry.arguments[i].type : entry.result;
     };
 
-    if ((LacksPlace(parameters) || ...)) return E_POINTER;
+    if constexpr (kCount > 0) {
+      auto& last = std::get<kCount - 1>(std::tie(parameters...));
+      if constexpr (kIsPlace<std::remove_reference_t<decltype(last)>>) {
+        if (answers && last == nullptr) return E_POINTER;
+      }
+    }
     std::array<Variant, kCount + 1> variables;
     std::array<Argument, kCount + 1> arguments;
     const auto take = [&]<std::size_t... I>(std::index_sequence<I...> /*positions*/) {
