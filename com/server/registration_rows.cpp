@@ -84,10 +84,12 @@ Library AddTypeLibrary(ITypeLib& types, const std::wstring& file, std::vector<Re
   const Library library = {Braced(attributes->guid), Hexadecimal(attributes->wMajorVerNum) + L"." +
                                                          Hexadecimal(attributes->wMinorVerNum)};
   const std::wstring key = L"TypeLib\\" + library.id + L"\\" + library.version;
+  // That it lies in a file is no fact of the library's own.
+  const int flags = attributes->wLibFlags & ~LIBFLAG_FHASDISKIMAGE;
   const wchar_t* const platform = attributes->syskind == SYS_WIN64 ? L"win64" : L"win32";
   rows.push_back({key, L"", Take(description), true});
   rows.push_back({key + L"\\" + Hexadecimal(attributes->lcid) + L"\\" + platform, L"", file});
-  rows.push_back({key + L"\\FLAGS", L"", std::to_wstring(attributes->wLibFlags), true});
+  rows.push_back({key + L"\\FLAGS", L"", std::to_wstring(flags), true});
   rows.push_back({key + L"\\HELPDIR", L"", file.substr(0, file.find_last_of(L"\\/")), true});
   for (UINT i = 0; i < types.GetTypeInfoCount(); ++i) {
     TYPEKIND kind = TKIND_MAX;
