@@ -1,10 +1,13 @@
 // What the library asks of the operating system.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
 #include "automation/locale.h"
+#include "automation/variant.h"
+#include "platform/registry.h"
 
 namespace rangewerks::platform {
 
@@ -17,8 +20,15 @@ class System {
   virtual std::string LibraryFile() const = 0;
   /// The name under which the person has logged on, or nothing when it can't be told.
   virtual std::optional<std::string> LoggedOnUser() const = 0;
+  /// The name of the account that the program runs under; empty when it can't be told. It's the
+  /// name of the person who has logged on where the system has no other.
+  virtual std::string AccountName() const { return LoggedOnUser().value_or(std::string()); }
   /// The facts of the person's locale.
   virtual automation::Locale CurrentLocale() const = 0;
+  /// The day and the time of the person's time zone, to the second.
+  virtual automation::Date Now() const;
+  /// Where the person's settings are kept.
+  virtual std::shared_ptr<Registry> OpenRegistry() const { return nullptr; }
 };
 
 }  // namespace rangewerks::platform

@@ -1,11 +1,13 @@
 // A system that answers as a test tells it to.
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 
 #include "platform/system.h"
+#include "support/memory_registry.h"
 
 namespace rangewerks::tests {
 
@@ -20,13 +22,28 @@ class FixedSystem final : public platform::System {
     ++timesAskedForUser_;
     return user_;
   }
+  std::string AccountName() const override { return account_; }
   automation::Locale CurrentLocale() const override { return {}; }
+  automation::Date Now() const override {
+    ++timesAskedForNow_;
+    return now_;
+  }
+  /// One registry in memory for as long as this lives.
+  std::shared_ptr<platform::Registry> OpenRegistry() const override { return registry_; }
 
+  void RunAs(const std::string& account) { account_ = account; }
+  void SetNow(automation::Date now) { now_ = now; }
+  const std::shared_ptr<MemoryRegistry>& Settings() const { return registry_; }
+  int TimesAskedForNow() const { return timesAskedForNow_; }
   int TimesAskedForUser() const { return timesAskedForUser_; }
 
  private:
   std::string libraryFile_;
   std::optional<std::string> user_;
+  std::string account_;
+  automation::Date now_;
+  std::shared_ptr<MemoryRegistry> registry_ = std::make_shared<MemoryRegistry>();
+  mutable int timesAskedForNow_ = 0;
   mutable int timesAskedForUser_ = 0;
 };
 

@@ -1,0 +1,42 @@
+// Where settings are kept from one run to the next: keys in a tree, with named values in each.
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <variant>
+
+namespace rangewerks::platform {
+
+/// A text (REG_SZ) or a 32-bit integer (REG_DWORD).
+using RegistryValue = std::variant<std::string, std::int32_t>;
+
+/// The registry, or what stands in for it on a system without one.
+///
+/// A root is the system's handle of one of its roots. The parts of a key stand between backslashes;
+/// keys and names are compared without regard to case. What is written is there for the next call,
+/// in other programs too. Nothing here raises an error: each call answers with a status.
+class Registry {
+ public:
+  /// The root of what belongs to the person, HKEY_CURRENT_USER.
+  static constexpr auto kCurrentUser = static_cast<std::int32_t>(0x80000001U);
+
+  static constexpr std::int32_t kSuccess = 0;
+  /// There is no such key or value.
+  static constexpr std::int32_t kNotFound = 2;
+
+  struct Reading {
+    std::int32_t status;  ///< kSuccess, or else the system's number for what went wrong
+    std::optional<RegistryValue> value;  ///< nothing too when it is of another type
+  };
+
+  virtual ~Registry() = default;
+
+  virtual Reading Read(std::int32_t root, const std::string& key,
+                       const std::string& name) const = 0;
+  /// Makes the key with its parents where they are missing. Returns the status.
+  virtual std::int32_t Write(std::int32_t root, const std::string& key, const std::string& name,
+                             const RegistryValue& value) = 0;
+};
+
+}  // namespace rangewerks::platform

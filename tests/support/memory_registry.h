@@ -1,0 +1,61 @@
+// A registry in memory that a test can look into.
+#pragma once
+
+#include <cstdint>
+#include <map>
+#include <string>
+#include <tuple>
+#include <vector>
+
+#include "automation/text.h"
+#include "platform/registry.h"
+
+namespace rangewerks::tests {
+
+class MemoryRegistry final : public platform::Registry {
+ public:
+  using Value = platform::RegistryValue;
+
+  Reading Read(std::int32_t root, const std::string& key, const std::string& name) const override {
+    reads_.push_back(key + "|" + name);
+    const auto found = values_.find(PlaceOf(root, key, name));
+    if (found == values_.end()) return {kNotFound, std::nullopt};
+    return {kSuccess, found->second};
+  }
+  std::int32_t Write(std::int32_t root, const std::string& key, const std::string& name,
+                     const Value& value) override {
+    writes_.push_back(key + "|" + name);
+    if (status_ == kSuccess) values_[PlaceOf(root, key, name)] = value;
+    return status_;
+  }
+
+  /// A value of a type that is neither text nor number.
+  void PutOfAnotherType(const std::string& key, const std::string& name) {
+    values_[PlaceOf(kCurrentUser, key, name)] = std::nullopt;
+  }
+  /// From now on each write ends with this status, and stores nothing unless it's 0.
+  void AnswerWritesWith(std::int32_t status) { status_ = status; }
+
+  /// What was asked for since the start or the last call of Forget: "key|name".
+  const std::vector<std::string>& Reads() const { return reads_; }
+  const std::vector<std::string>& Writes() const { return writes_; }
+  void Forget() {
+    reads_.clear();
+    writes_.clear();
+  }
+  std::size_t Size() const { return values_.size(); }
+
+ private:
+  using Place = std::tuple<std::int32_t, std::string, std::string>;
+
+  static Place PlaceOf(std::int32_t root, const std::string& key, const std::string& name) {
+    return {root, automation::FoldCase(key), automation::FoldCase(name)};
+  }
+
+  std::map<Place, std::optional<Value>> values_;
+  mutable std::vector<std::string> reads_;
+  std::vector<std::string> writes_;
+  std::int32_t status_ = kSuccess;
+};
+
+}  // namespace rangewerks::tests
