@@ -36,6 +36,7 @@ ExitStatus RunFill(const FillOptions& options, Console console) {
     Progress progress(console.messages, console.messagesOnTerminal);
     FillReport filled = Fill(*list, found, values,
                              [&](auto cell, auto cells) { progress.Show(cell, cells, "cell"); });
+    progress.Say("saving to " + target.Path());
     target.Write([&](const std::string& path) { session.SaveCopyAs(path); });
     return filled;
   });

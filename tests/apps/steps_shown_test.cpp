@@ -1,9 +1,10 @@
-// What a person sees while the layout is checked and ranges are cleared.
+// What a person sees while the layout is checked, ranges are cleared, and a copy is saved.
 #include <gmock/gmock.h>
 
 #include <sstream>
 
 #include "apps/rangewerks/clear_command.h"
+#include "apps/rangewerks/fill_command.h"
 #include "apps/rangewerks/layout_check.h"
 #include "apps/rangewerks/validate_command.h"
 #include "automation/locale.h"
@@ -98,6 +99,14 @@ TEST_F(StepsOfACommand, ValidateTakesItsLineAwayAgain) {
 TEST_F(StepsOfACommand, ClearEndsWithSavingAndTakesItsLineAwayAgain) {
   const std::string copy = folder.File("out.json");
   EXPECT_EQ(RunClear({sheet, {}, {copy, false, false}}, {output, messages, true}), kAllWell);
+  EXPECT_EQ(LinesOf(messages.str()).back(), "saving to " + copy);
+  EXPECT_TRUE(messages.str().ends_with("\r\x1b[K"));
+}
+
+TEST_F(StepsOfACommand, FillEndsWithSavingToo) {
+  const std::string data = folder.Write("rows.csv", "row,a\n1,y\n");
+  const std::string copy = folder.File("out.json");
+  EXPECT_EQ(RunFill({sheet, data, {copy, false, false}}, {output, messages, true}), kAllWell);
   EXPECT_EQ(LinesOf(messages.str()).back(), "saving to " + copy);
   EXPECT_TRUE(messages.str().ends_with("\r\x1b[K"));
 }
