@@ -1,0 +1,246 @@
+// Registering and unregistering, in a registry of the test's own.
+#include <gmock/gmock.h>
+#include <windows.h>
+
+#include <algorithm>
+#include <array>
+#include <iterator>
+#include <string>
+#include <vector>
+
+#include "com/bridge/text.h"
+#include "windows/registry_sandbox.h"
+#include "windows/server_under_test.h"
+
+namespace rangewerks::tests {
+namespace {
+
+using testing::Contains;
+using testing::ElementsAre;
+using testing::ElementsAreArray;
+using testing::IsEmpty;
+
+HRESULT Call(const char* entryPoint) {
+  using EntryPoint = HRESULT(STDAPICALLTYPE*)();
+  const auto function = reinterpret_cast<EntryPoint>(
+      reinterpret_cast<void*>(GetProcAddress(ServerModule(), entryPoint)));
+  return function();
+}
+HRESULT RegisterServer() { return Call("DllRegisterServer"); }
+HRESULT UnregisterServer() { return Call("DllUnregisterServer"); }
+
+std::string ServerFile() {
+  std::array<wchar_t, 2 * MAX_PATH> file{};
+  GetModuleFileNameW(ServerModule(), file.data(), static_cast<DWORD>(file.size()));
+  return com::FromWide(file.data());
+}
+std::string ServerFolder() { return ServerFile().substr(0, ServerFile().rfind('\\')); }
+
+/// The identifiers as published. They never change; a failure here is a mistake in the library's
+/// definition, not in this list.
+constexpr const char* kLibrary = "{BB9B934D-B790-4E40-AF93-ED39AECD8AE4}";
+struct PublishedClass {
+  const char* id;
+  const char* progId;
+  const char* name;
+};
+constexpr std::array kClasses = {
+    PublishedClass{"{EB72F789-34AC-4A6A-BDC6-C39A141A58E8}", "Rangewerks.clsInterfaceRangeList",
+                   "Rangewerks interface range list"},
+    PublishedClass{"{FCEE5D41-C542-4C4D-93A6-8BD7E2627E81}", "Rangewerks.clsExInputRange",
+                   "Rangewerks declared range"},
+    PublishedClass{"{5FE272D8-97E5-4632-AE63-DBFC05972E54}", "Rangewerks.colExInputRangeList",
+                   "Rangewerks list of declared ranges"},
+    PublishedClass{"{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}", "Rangewerks.ExcelFunctions",
+                   "Rangewerks routines for sheets"},
+};
+struct PublishedInterface {
+  const char* id;
+  const char* name;
+};
+constexpr const char* kDualProxy = "{00020424-0000-0000-C000-000000000046}";
+constexpr std::array kDualInterfaces = {
+    PublishedInterface{"{582C478E-649D-4BC8-9BDD-AF82EF97438A}", "_clsRangeGroupHeading"},
+    PublishedInterface{"{74BDB599-98B2-432D-9DFF-CC7C40299DBB}", "_colGroupHeadings"},
+    PublishedInterface{"{AC6027B4-1BFC-42CF-817A-08ABFCCEAE1A}", "_clsExInputRange"},
+    PublishedInterface{"{EFA4B2D9-C96D-444A-9CA7-3554E5030AC1}", "_colExInputRangeList"},
+    PublishedInterface{"{96AC32DF-DC59-4172-A116-306F51B69B53}", "_clsInterfaceRangeList"},
+    PublishedInterface{"{6A523BB4-D3E4-46FE-905B-2DBCFF546108}", "_ExcelFunctions"},
+};
+constexpr const char* kEventsProxy = "{00020420-0000-0000-C000-000000000046}";
+constexpr PublishedInterface kEvents = {"{823CBCD1-3B30-4061-8544-84BB2F5E23F9}",
+                                        "__clsInterfaceRangeList"};
+
+/// Keys and values in the form of RegistrySandbox::ClassesOf.
+class Lines {
+ public:
+  void Value(const std::string& key, const std::string& name, const std::string& text) {
+    Key(key);
+    lines_.push_back(key + " [" + name + "] " + text);
+  }
+  std::vector<std::string> Sorted() {
+    std::ranges::sort(lines_);
+    return lines_;
+  }
+
+ private:
+  void Key(const std::string& key) {
+    if (std::ranges::find(lines_, key) != lines_.end()) return;
+    lines_.push_back(key);
+    const std::size_t parent = key.rfind('\\');
+    if (parent != std::string::npos) Key(key.substr(0, parent));
+  }
+
+  std::vector<std::string> lines_;
+};
+
+void AddInterface(const PublishedInterface& published, const char* proxy, Lines& lines) {
+  const std::string key = std::string("Interface\\") + published.id;
+  lines.Value(key, "", published.name);
+  lines.Value(key + "\\ProxyStubClsid32", "", proxy);
+  lines.Value(key + "\\TypeLib", "", kLibrary);
+  lines.Value(key + "\\TypeLib", "Version", "1.0");
+}
+
+std::vector<std::string> Registered() {
+  Lines lines;
+  const std::string library = std::string("TypeLib\\") + kLibrary + "\\1.0";
+  lines.Value(library, "", "Rangewerks");
+  lines.Value(library + (sizeof(void*) == 8 ? "\\0\\win64" : "\\0\\win32"), "", ServerFile());
+  lines.Value(library + "\\FLAGS", "", "0");
+  lines.Value(library + "\\HELPDIR", "", ServerFolder());
+  for (const PublishedClass& served : kClasses) {
+    const std::string key = std::string("CLSID\\") + served.id;
+    lines.Value(key, "", served.name);
+    lines.Value(key + "\\InprocServer32", "", ServerFile());
+    lines.Value(key + "\\InprocServer32", "ThreadingModel", "Apartment");
+    lines.Value(key + "\\ProgID", "", served.progId);
+    lines.Value(key + "\\Programmable", "", "");
+    lines.Value(key + "\\TypeLib", "", kLibrary);
+    lines.Value(key + "\\Version", "", "1.0");
+    lines.Value(served.progId, "", served.name);
+    lines.Value(std::string(served.progId) + "\\CLSID", "", served.id);
+  }
+  for (const PublishedInterface& dual : kDualInterfaces) AddInterface(dual, kDualProxy, lines);
+  AddInterface(kEvents, kEventsProxy, lines);
+  return lines.Sorted();
+}
+
+std::vector<std::string> MachineClasses() { return RegistrySandbox::ClassesOf(HKEY_LOCAL_MACHINE); }
+std::vector<std::string> PersonClasses() { return RegistrySandbox::ClassesOf(HKEY_CURRENT_USER); }
+
+void SetText(HKEY root, const std::string& key, const wchar_t* text) {
+  const std::wstring value = text;
+  ASSERT_EQ(
+      RegSetKeyValueW(root, com::ToWide("Software\\Classes\\" + key).c_str(), nullptr, REG_SZ,
+                      value.c_str(), static_cast<DWORD>((value.size() + 1) * sizeof(wchar_t))),
+      ERROR_SUCCESS);
+}
+
+class Registration : public testing::Test {
+ protected:
+  RegistrySandbox sandbox_;
+};
+
+TEST_F(Registration, WritesTheLibraryAndTheClassesForTheMachine) {
+  EXPECT_EQ(RegisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), ElementsAreArray(Registered()));
+  EXPECT_THAT(PersonClasses(), IsEmpty());
+}
+
+TEST_F(Registration, LeavesNothingBehindWhenTakenOut) {
+  ASSERT_EQ(RegisterServer(), S_OK);
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), IsEmpty());
+  EXPECT_THAT(PersonClasses(), IsEmpty());
+}
+
+TEST_F(Registration, IsTheSameTheSecondTime) {
+  ASSERT_EQ(RegisterServer(), S_OK);
+  ASSERT_EQ(UnregisterServer(), S_OK);
+  EXPECT_EQ(RegisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), ElementsAreArray(Registered()));
+  EXPECT_EQ(RegisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), ElementsAreArray(Registered()));
+}
+
+TEST_F(Registration, IsForThePersonWhereTheMachineIsForbidden) {
+  sandbox_.ForbidMachine();
+  EXPECT_EQ(RegisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), IsEmpty());
+  EXPECT_THAT(PersonClasses(), ElementsAreArray(Registered()));
+
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  EXPECT_THAT(PersonClasses(), IsEmpty());
+}
+
+TEST_F(Registration, IsTakenOutForTheMachineAndForThePerson) {
+  sandbox_.ForbidMachine();
+  ASSERT_EQ(RegisterServer(), S_OK);
+  sandbox_.AllowMachine();
+  ASSERT_EQ(RegisterServer(), S_OK);
+  ASSERT_THAT(MachineClasses(), ElementsAreArray(Registered()));
+  ASSERT_THAT(PersonClasses(), ElementsAreArray(Registered()));
+
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(), IsEmpty());
+  EXPECT_THAT(PersonClasses(), IsEmpty());
+}
+
+TEST_F(Registration, ThatWasNeverMadeIsTakenOutWithoutFailure) {
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  sandbox_.ForbidMachine();
+  EXPECT_EQ(UnregisterServer(), S_OK);
+}
+
+TEST_F(Registration, LeavesAloneWhatOthersHaveWritten) {
+  const std::string key = std::string("CLSID\\") + kClasses[0].id;
+  SetText(HKEY_LOCAL_MACHINE, "CLSID\\{00000000-0000-0000-0000-000000000001}", L"Another class");
+  ASSERT_EQ(RegisterServer(), S_OK);
+  SetText(HKEY_LOCAL_MACHINE, key + "\\Note", L"added by a person");
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  EXPECT_THAT(MachineClasses(),
+              ElementsAre("CLSID", "CLSID\\{00000000-0000-0000-0000-000000000001}",
+                          "CLSID\\{00000000-0000-0000-0000-000000000001} [] Another class", key,
+                          key + "\\Note", key + "\\Note [] added by a person"));
+}
+
+TEST_F(Registration, ThatMayNotBeTakenOutIsAFailure) {
+  ASSERT_EQ(RegisterServer(), S_OK);
+  const std::string key = std::string("CLSID\\") + kClasses[0].id + "\\InprocServer32";
+  sandbox_.ForbidMachine(key);
+  EXPECT_EQ(UnregisterServer(), HRESULT_FROM_WIN32(ERROR_ACCESS_DENIED));
+  EXPECT_THAT(MachineClasses(), Contains(key + " [] " + ServerFile()));
+}
+
+TEST_F(Registration, ThatFailsHalfWayLeavesNothingBehind) {
+  const std::string key = std::string("CLSID\\") + kClasses[3].id;
+  sandbox_.ForbidMachine(key);
+  EXPECT_EQ(RegisterServer(), S_OK);  // for the person then
+  EXPECT_THAT(MachineClasses(), ElementsAre("CLSID", key));
+  EXPECT_THAT(PersonClasses(), ElementsAreArray(Registered()));
+}
+
+// A 64-bit system keeps the classes of 32-bit servers in a branch of their own.
+TEST_F(Registration, KeepsWhatTheRegisteredBuildOfTheOtherWordSizeShares) {
+  if (sizeof(void*) == 4) GTEST_SKIP() << "a 32-bit system has no other branch";
+  ASSERT_EQ(RegisterServer(), S_OK);
+  const std::string theirs = std::string("Wow6432Node\\CLSID\\") + kClasses[0].id;
+  SetText(HKEY_LOCAL_MACHINE, theirs + "\\InprocServer32", L"C:\\x86\\Rangewerks.dll");
+  EXPECT_EQ(UnregisterServer(), S_OK);
+  std::vector<std::string> shared;
+  std::ranges::copy_if(Registered(), std::back_inserter(shared), [](const std::string& line) {
+    return line.find(" [") != std::string::npos &&
+           (line.starts_with("Rangewerks.") || line.starts_with("TypeLib\\")) &&
+           line.find("\\win64") == std::string::npos;
+  });
+  std::vector<std::string> left;
+  std::ranges::copy_if(MachineClasses(), std::back_inserter(left), [](const std::string& line) {
+    return line.find(" [") != std::string::npos && !line.starts_with("Wow6432Node");
+  });
+  EXPECT_EQ(shared.size(), 11U);  // two for each class, three for the library
+  EXPECT_EQ(left, shared);
+}
+
+}  // namespace
+}  // namespace rangewerks::tests
