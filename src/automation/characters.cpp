@@ -1,5 +1,6 @@
 #include "automation/characters.h"
 
+#include <algorithm>
 #include <array>
 
 namespace rangewerks::automation {
@@ -25,8 +26,8 @@ std::size_t BlankLength(std::string_view text) {
 }  // namespace
 
 std::string WithCommonBlanks(std::string_view text) {
+  if (std::none_of(text.begin(), text.end(), IsBeyondAscii)) return std::string(text);
   std::string plain;
-  plain.reserve(text.size());
   while (!text.empty()) {
     const std::size_t blank = BlankLength(text);
     plain += blank == 0 ? text.front() : ' ';

@@ -24,7 +24,25 @@ double WithHalfUp(double magnitude) {
   return isHalf ? std::nextafter(magnitude, std::numeric_limits<double>::infinity()) : magnitude;
 }
 
-/// "d.ddde±xx" with 15 significant digits, taken apart.
+/// The mantissa of "d.ddde±xx" or "de±xx", with its point.
+std::string_view MantissaOf(std::string_view text) { return text.substr(0, text.find('e')); }
+
+/// "d.ddde±xx" with at most 15 significant digits. The fewest digits that stand for a normal number
+/// are also its first 15, if they aren't more.
+template <std::size_t N>
+std::string_view PrintScientific(double magnitude, std::array<char, N>& buffer) {
+  char* const start = buffer.data();
+  const auto print = [&](auto... arguments) {
+    const char* const end = std::to_chars(start, start + N, arguments...).ptr;
+    return std::string_view(start, static_cast<std::size_t>(end - start));
+  };
+  const std::string_view fewest = print(magnitude, std::chars_format::scientific);
+  if (std::isnormal(magnitude) && MantissaOf(fewest).size() <= kSignificantDigits + 1)
+    return fewest;
+  return print(WithHalfUp(magnitude), std::chars_format::scientific, kSignificantDigits - 1);
+}
+
+/// A printed number taken apart.
 struct Scientific {
   bool isNegative;
   std::string_view digits;  ///< without the zeros at the end, at least one
@@ -33,16 +51,16 @@ struct Scientific {
 
 template <std::size_t N>
 Scientific ToScientific(double value, std::array<char, N>& buffer) {
-  char* const start = buffer.data();
-  const auto [end, error] = std::to_chars(start, start + N, WithHalfUp(std::abs(value)),
-                                          std::chars_format::scientific, kSignificantDigits - 1);
-  const std::string_view text(start, static_cast<std::size_t>(end - start));
-  const std::size_t mark = text.find('e');
+  const std::string_view text = PrintScientific(std::abs(value), buffer);
+  std::string_view digits = MantissaOf(text);
+  std::string_view power = text.substr(digits.size() + 1);
+  if (power.starts_with('+')) power.remove_prefix(1);
   int exponent = 0;
-  const std::size_t number = text[mark + 1] == '+' ? mark + 2 : mark + 1;
-  std::from_chars(start + number, end, exponent);
-  buffer[1] = buffer[0];  // over the point, so that the digits are one run
-  std::string_view digits = text.substr(1, mark - 1);
+  std::from_chars(power.data(), power.data() + power.size(), exponent);
+  if (digits.size() > 1) {
+    buffer[1] = buffer[0];  // over the point, so that the digits are one run
+    digits.remove_prefix(1);
+  }
   while (digits.size() > 1 && digits.back() == '0') digits.remove_suffix(1);
   return {std::signbit(value) && value != 0, digits, exponent};
 }
