@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "automation/error.h"
+#include "systems/posix/file_registry.h"
 #include "systems/posix/locale_facts.h"
 
 namespace rangewerks::systems {
@@ -56,5 +57,9 @@ std::optional<std::string> PosixSystem::LoggedOnUser() const {
 }
 
 automation::Locale PosixSystem::CurrentLocale() const { return ReadLocale(); }
+
+std::shared_ptr<platform::Registry> PosixSystem::OpenRegistry() const {
+  return std::make_shared<FileRegistry>(FileRegistry::PersonsFile());
+}
 
 }  // namespace rangewerks::systems

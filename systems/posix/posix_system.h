@@ -4,6 +4,7 @@
 //   automation::Locale::SetCurrent(system.CurrentLocale());
 #pragma once
 
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -22,6 +23,8 @@ class PosixSystem final : public platform::System {
   /// has no say and isn't changed. The default Locale stands for the "C" locale, and for one that
   /// isn't installed.
   automation::Locale CurrentLocale() const override;
+  /// A file of the person's (see FileRegistry).
+  std::shared_ptr<platform::Registry> OpenRegistry() const override;
 };
 
 }  // namespace rangewerks::systems

@@ -10,6 +10,7 @@
 #include <vector>
 
 #include "automation/conversions.h"
+#include "support/environment.h"
 #include "systems/posix/locale_facts.h"
 
 /// The C library's newlocale doesn't free its copy of LOCPATH, which only these tests set.
@@ -27,30 +28,6 @@ using automation::Locale;
 using systems::PosixSystem;
 using systems::TakeDateFormat;
 using systems::TakeTimeFormat;
-
-/// A variable of the environment for the length of a test.
-class Setting {
- public:
-  Setting(const char* name, const char* value) : name_(name) {
-    if (const char* before = std::getenv(name)) before_ = before;
-    Put(value);
-  }
-  Setting(const Setting&) = delete;
-  Setting& operator=(const Setting&) = delete;
-  ~Setting() { Put(before_ ? before_->c_str() : nullptr); }
-
- private:
-  void Put(const char* value) const {
-    if (value != nullptr) {
-      setenv(name_, value, 1);
-    } else {
-      unsetenv(name_);
-    }
-  }
-
-  const char* name_;
-  std::optional<std::string> before_;
-};
 
 void ExpectDefault(const Locale& locale) {
   const Locale standard;
