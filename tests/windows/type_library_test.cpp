@@ -1,6 +1,7 @@
 #include <gmock/gmock.h>
 #include <oaidl.h>
 
+#include <array>
 #include <string>
 #include <utility>
 #include <vector>
@@ -209,6 +210,49 @@ TEST(TypeLibrary, HasTheEnumerationsWithTheirValues) {
       ValuesOf("elgErrors"),
       ElementsAre(Pair("errRowsInvalidRangeForBrowse", errRowsInvalidRangeForBrowse),
                   Pair("errColumnsInvalidRangeForBrowse", errColumnsInvalidRangeForBrowse)));
+}
+
+std::string Braced(const GUID& id) {
+  std::array<wchar_t, 39> text{};
+  StringFromGUID2(id, text.data(), static_cast<int>(text.size()));
+  return com::FromWide(text.data());
+}
+
+// A failure here is a mistake in the library's definition, not in this list: docs/com.md tells why.
+TEST(TypeLibrary, KeepsItsIdentifiers) {
+  const auto library = ServerTypeLibrary();
+  TLIBATTR* attributes = nullptr;
+  library->GetLibAttr(&attributes);
+  EXPECT_EQ(Braced(attributes->guid), "{BB9B934D-B790-4E40-AF93-ED39AECD8AE4}");
+  EXPECT_EQ(attributes->wMajorVerNum, 1);
+  EXPECT_EQ(attributes->wMinorVerNum, 0);
+  library->ReleaseTLibAttr(attributes);
+  std::vector<std::pair<std::string, std::string>> types;
+  for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
+    Pointer<ITypeInfo> type;
+    library->GetTypeInfo(i, type.Receive());
+    TypeAttributes described(*type.Get());
+    type->GetTypeAttr(described.Receive());
+    types.emplace_back(NameOfType(*type.Get()), Braced(described->guid));
+  }
+  EXPECT_THAT(types,
+              ElementsAre(Pair("eRangeDataType", "{D3A6A8BF-9FBD-48E4-8D49-55C5A3659AB0}"),
+                          Pair("eRangeHeadDetailInd", "{B5697680-BC3A-422A-9E8D-872DAFFF75C5}"),
+                          Pair("RangewerksErrors", "{87B6C095-2755-41DA-8026-C7D714226A0D}"),
+                          Pair("elgErrors", "{B2F775B4-0C4E-44A8-A2D9-42764EF79FAB}"),
+                          Pair("_clsRangeGroupHeading", "{582C478E-649D-4BC8-9BDD-AF82EF97438A}"),
+                          Pair("_colGroupHeadings", "{74BDB599-98B2-432D-9DFF-CC7C40299DBB}"),
+                          Pair("_clsExInputRange", "{AC6027B4-1BFC-42CF-817A-08ABFCCEAE1A}"),
+                          Pair("_colExInputRangeList", "{EFA4B2D9-C96D-444A-9CA7-3554E5030AC1}"),
+                          Pair("_clsInterfaceRangeList", "{96AC32DF-DC59-4172-A116-306F51B69B53}"),
+                          Pair("_ExcelFunctions", "{6A523BB4-D3E4-46FE-905B-2DBCFF546108}"),
+                          Pair("__clsInterfaceRangeList", "{823CBCD1-3B30-4061-8544-84BB2F5E23F9}"),
+                          Pair("clsRangeGroupHeading", "{57A505C8-0DAA-43EA-89B8-5B682761AACA}"),
+                          Pair("colGroupHeadings", "{AC70CE33-AC49-4553-AAFB-083A3D44CB12}"),
+                          Pair("clsExInputRange", "{FCEE5D41-C542-4C4D-93A6-8BD7E2627E81}"),
+                          Pair("colExInputRangeList", "{5FE272D8-97E5-4632-AE63-DBFC05972E54}"),
+                          Pair("clsInterfaceRangeList", "{EB72F789-34AC-4A6A-BDC6-C39A141A58E8}"),
+                          Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}")));
 }
 
 TEST(TypeLibrary, DescribesEveryTypeInWords) {
