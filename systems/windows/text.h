@@ -1,0 +1,13 @@
+// Texts between Windows' UTF-16 or the code page and UTF-8. Private to this folder's sources.
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace rangewerks::systems {
+
+std::string Utf8Of(std::wstring_view text);
+/// A text in the code page of the system (ANSI).
+std::string Utf8OfAnsi(std::string_view text);
+
+}  // namespace rangewerks::systems

@@ -1,0 +1,49 @@
+#include "systems/windows/windows_system.h"
+
+#include <windows.h>
+// The network calls need what comes before.
+#include <winnetwk.h>
+
+#include "automation/error.h"
+#include "systems/windows/locale_facts.h"
+#include "systems/windows/text.h"
+#include "systems/windows/user_name.h"
+
+namespace rangewerks::systems {
+namespace {
+
+constexpr std::size_t kUserNameSize = 256;
+constexpr std::size_t kLongestPath = 32768;
+
+/// Some address within the code of this library.
+void Anchor() {}
+
+HMODULE OwnModule() {
+  HMODULE module = nullptr;
+  GetModuleHandleExW(
+      GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT,
+      reinterpret_cast<const wchar_t*>(&Anchor), &module);
+  return module;
+}
+
+}  // namespace
+
+std::string WindowsSystem::LibraryFile() const {
+  const HMODULE module = OwnModule();
+  std::wstring path(kLongestPath, L'\0');
+  const DWORD length =
+      module == nullptr ? 0 : GetModuleFileNameW(module, path.data(), kLongestPath);
+  if (length == 0) throw automation::Error(automation::ErrorNumber::FileNotFound);
+  return Utf8Of(std::wstring_view(path).substr(0, length));
+}
+
+std::optional<std::string> WindowsSystem::LoggedOnUser() const {
+  std::string buffer(kUserNameSize, ' ');
+  DWORD size = kUserNameSize;
+  if (WNetGetUserA("", buffer.data(), &size) != NO_ERROR) return std::nullopt;
+  return UserNameIn(buffer);
+}
+
+automation::Locale WindowsSystem::CurrentLocale() const { return ReadLocale(nullptr); }
+
+}  // namespace rangewerks::systems
