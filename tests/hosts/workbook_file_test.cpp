@@ -1,12 +1,8 @@
 // Workbooks read from plain files, and what is said about wrong ones.
 #include <gmock/gmock.h>
 
-#include <unistd.h>
-
-#include <filesystem>
-#include <fstream>
-
 #include "hosts/late_calls.h"
+#include "hosts/temporary_folder.h"
 #include "hosts/workbook/host.h"
 
 namespace rangewerks::tests {
@@ -42,19 +38,7 @@ constexpr const char* kWholeFile = R"json({
 
 class WorkbookFile : public testing::Test {
  protected:
-  WorkbookFile() {
-    const auto* info = testing::UnitTest::GetInstance()->current_test_info();
-    folder_ = std::filesystem::temp_directory_path() /
-              (std::string("rangewerks_") + info->name() + std::to_string(::getpid()));
-    std::filesystem::create_directories(folder_);
-    path_ = (folder_ / "ledger.json").string();
-  }
-  ~WorkbookFile() override { std::filesystem::remove_all(folder_); }
-
-  Object Open(const std::string& text) {
-    std::ofstream(path_, std::ios::binary) << text;
-    return host_.Open(path_);
-  }
+  Object Open(const std::string& text) { return host_.Open(folder_.Write("ledger.json", text)); }
   /// The words of the error that opening a file of that text raises, without the path in front.
   std::string Fault(const std::string& text) {
     try {
@@ -72,8 +56,8 @@ class WorkbookFile : public testing::Test {
     return Fault(R"({"sheets": [{"name": "Sheet1", "cells": )" + cells + "}]}");
   }
 
-  std::filesystem::path folder_;
-  std::string path_;
+  TemporaryFolder folder_;
+  std::string path_ = folder_.File("ledger.json");
   Host host_;
 };
 
@@ -132,7 +116,7 @@ TEST_F(WorkbookFile, GivesTheLocale) {
 }
 
 TEST_F(WorkbookFile, IsOpenedByTheObjectModelToo) {
-  std::ofstream(path_) << R"({"sheets": [{"name": "Only"}]})";
+  folder_.Write("ledger.json", R"({"sheets": [{"name": "Only"}]})");
   const Object books = GetObject(host_.Application(), "Workbooks");
   const Object book = Call(books, "Open", {path_}).AsObject();
   EXPECT_EQ(GetText(GetObject(book, "ActiveSheet"), "Name"), "Only");
@@ -140,7 +124,7 @@ TEST_F(WorkbookFile, IsOpenedByTheObjectModelToo) {
 
 TEST_F(WorkbookFile, ThatIsNotThereIsAMissingFile) {
   EXPECT_EQ(ErrorNumberOf([&] { host_.Open(path_); }), 53);
-  EXPECT_EQ(ErrorNumberOf([&] { host_.Open(folder_.string()); }), 53);
+  EXPECT_EQ(ErrorNumberOf([&] { host_.Open(folder_.File(".")); }), 53);
 }
 
 TEST_F(WorkbookFile, ThatIsWrongLeavesTheHostAsItWas) {

@@ -1,11 +1,11 @@
 // Workbooks written to plain files, and read again.
 #include <gtest/gtest.h>
 
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 
 #include "hosts/late_calls.h"
+#include "hosts/temporary_folder.h"
 #include "hosts/workbook/host.h"
 #include "support/error_of.h"
 
@@ -18,13 +18,7 @@ using hosts::workbook::Host;
 
 class WorkbookWriting : public testing::Test {
  protected:
-  WorkbookWriting() {
-    std::string name = (std::filesystem::temp_directory_path() / "rangewerks-XXXXXX").string();
-    folder_ = mkdtemp(name.data());
-  }
-  ~WorkbookWriting() override { std::filesystem::remove_all(folder_); }
-
-  std::string File(const char* name) const { return (folder_ / name).string(); }
+  std::string File(const char* name) const { return folder_.File(name); }
   static std::string TextOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
@@ -33,7 +27,7 @@ class WorkbookWriting : public testing::Test {
     return GetObject(GetObject(book, "Sheets", {sheet}), "Range", {address});
   }
 
-  std::filesystem::path folder_;
+  TemporaryFolder folder_;
   Host host_;
 };
 
