@@ -11,10 +11,10 @@
 
 #include "automation/conversions.h"
 #include "automation/error.h"
+#include "systems/windows/locale_facts.h"
 #include "windows/conversion_differences.h"
 #include "windows/conversion_texts.h"
 #include "windows/platform_conversions.h"
-#include "windows/windows_locale.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -23,7 +23,8 @@ using automation::Date;
 using automation::Locale;
 using automation::Variant;
 
-constexpr LCID kLocales[] = {0x409, 0x407, 0x40C};  // month first; day first with points; blanks
+/// Month first; day first with points; day first with slashes and digits grouped with blanks.
+constexpr const wchar_t* kLocales[] = {L"en-US", L"de-DE", L"fr-FR"};
 
 Outcome AsOutcome(std::string text) { return Outcome::OfText(std::move(text)); }
 Outcome AsOutcome(Date date) { return Outcome::OfNumber(date.serial); }
@@ -50,9 +51,9 @@ class Comparison {
   Comparison() {
     const auto texts = AllTexts();
     texts_ = texts.size();
-    for (const LCID id : kLocales) {
-      const Locale locale = LocaleOf(id);
-      const PlatformConversions platform(id);
+    for (const wchar_t* const name : kLocales) {
+      const Locale locale = systems::ReadLocale(name);
+      const PlatformConversions platform(name);
       for (const std::string& text : texts) CompareText(text, locale, platform);
       for (const double number : BorderNumbers()) CompareNumber(number, locale, platform);
       for (const double serial : BorderDates()) CompareDate(serial, locale, platform);
@@ -179,9 +180,9 @@ TEST(ConversionsBesideThePlatforms, AreForetoldByIsNumericAndIsDate) {
 }
 
 TEST(ConversionsBesideThePlatforms, WriteWholeNumbersAndBooleansAlike) {
-  for (const LCID id : kLocales) {
-    const Locale locale = LocaleOf(id);
-    const PlatformConversions platform(id);
+  for (const wchar_t* const name : kLocales) {
+    const Locale locale = systems::ReadLocale(name);
+    const PlatformConversions platform(name);
     for (const std::int32_t number : {0, 1, -1, 1234, 1234567, std::numeric_limits<int>::max(),
                                       std::numeric_limits<int>::min()}) {
       EXPECT_EQ(Outcome::OfText(ToString(number, locale)), platform.TextOf(number));

@@ -11,7 +11,7 @@ namespace {
 
 using com::Bstr;
 
-constexpr ULONG kFlags = LOCALE_NOUSEROVERRIDE;
+constexpr ULONG kFlags = 0;
 
 std::int32_t FailureOf(HRESULT result) {
   switch (result) {

@@ -14,7 +14,8 @@ namespace rangewerks::tests {
 /// mismatch, 6 for an overflow, 5 for an invalid argument.
 class PlatformConversions {
  public:
-  explicit PlatformConversions(LCID locale) : locale_(locale) {}
+  /// In the locale of that name.
+  explicit PlatformConversions(const wchar_t* name) : locale_(LocaleNameToLCID(name, 0)) {}
 
   Outcome DoubleOf(const std::string& text) const;
   Outcome IntegerOf(const std::string& text) const;
