@@ -1,7 +1,6 @@
 #include "com/server/registration.h"
 
 #include <algorithm>
-#include <iterator>
 #include <span>
 
 #include "com/server/registration_rows.h"
@@ -13,26 +12,21 @@ constexpr const wchar_t* kClasses = L"Software\\Classes";
 /// The registry of the other word size, where the system keeps two.
 constexpr REGSAM kOtherView = sizeof(void*) == 8 ? KEY_WOW64_32KEY : KEY_WOW64_64KEY;
 
-/// An open key, or the error that opening it gave. HKEY_CLASSES_ROOT isn't used: it is a merged
-/// view whose writes go to one of two places.
+/// An open key, or none.
 class Key {
  public:
-  /// The key that holds the classes for the machine or the person.
-  Key(HKEY root, REGSAM access) : error_(RegOpenKeyExW(root, kClasses, 0, access, &handle_)) {}
-  Key(HKEY parent, const std::wstring& name, REGSAM access)
-      : error_(RegOpenKeyExW(parent, name.c_str(), 0, access, &handle_)) {}
+  Key() = default;
   Key(const Key&) = delete;
   Key& operator=(const Key&) = delete;
   ~Key() {
     if (handle_ != nullptr) RegCloseKey(handle_);
   }
 
-  LSTATUS Error() const { return error_; }
+  HKEY* Receive() { return &handle_; }
   HKEY Handle() const { return handle_; }
 
  private:
   HKEY handle_ = nullptr;
-  LSTATUS error_;
 };
 
 LSTATUS IgnoreMissing(LSTATUS error) {
@@ -40,7 +34,8 @@ LSTATUS IgnoreMissing(LSTATUS error) {
 }
 
 bool IsEmpty(HKEY classes, const std::wstring& name) {
-  const Key key(classes, name, KEY_QUERY_VALUE);
+  Key key;
+  RegOpenKeyExW(classes, name.c_str(), 0, KEY_QUERY_VALUE, key.Receive());
   DWORD keys = 1;
   DWORD values = 1;
   RegQueryInfoKeyW(key.Handle(), nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values,
@@ -69,34 +64,37 @@ LSTATUS Write(HKEY classes, const RegistryRow& row) {
                          bytes);
 }
 
+// HKEY_CLASSES_ROOT isn't used: it is a merged view whose writes go to one of two places.
 LSTATUS WriteAll(HKEY root, std::span<const RegistryRow> rows) {
-  HKEY handle = nullptr;
+  Key classes;
   LSTATUS error = RegCreateKeyExW(root, kClasses, 0, nullptr, 0, KEY_READ | KEY_WRITE, nullptr,
-                                  &handle, nullptr);
+                                  classes.Receive(), nullptr);
   std::size_t written = 0;
   while (error == ERROR_SUCCESS && written < rows.size()) {
-    error = Write(handle, rows[written]);
+    error = Write(classes.Handle(), rows[written]);
     if (error == ERROR_SUCCESS) ++written;
   }
   if (error != ERROR_SUCCESS) {
-    for (; written > 0; --written) Remove(handle, rows[written - 1]);
+    for (; written > 0; --written) Remove(classes.Handle(), rows[written - 1]);
   }
-  if (handle != nullptr) RegCloseKey(handle);
   return error;
 }
 
 /// Whether the other build has registered a class at the same root.
 bool OtherBuildIsRegistered(HKEY root, const Server& server) {
   const auto registered = [&](const ServedClass& served) {
-    const std::wstring key = std::wstring(kClasses) + L"\\" + ServerKey(served);
-    return Key(root, key, KEY_QUERY_VALUE | kOtherView).Error() == ERROR_SUCCESS;
+    const std::wstring name = std::wstring(kClasses) + L"\\" + ServerKey(served);
+    Key key;
+    return RegOpenKeyExW(root, name.c_str(), 0, KEY_QUERY_VALUE | kOtherView, key.Receive()) ==
+           ERROR_SUCCESS;
   };
   return std::ranges::any_of(server.classes, registered);
 }
 
 LSTATUS RemoveAll(HKEY root, const Server& server, std::span<const RegistryRow> rows) {
-  const Key classes(root, KEY_READ);
-  if (classes.Error() != ERROR_SUCCESS) return IgnoreMissing(classes.Error());
+  Key classes;
+  const LSTATUS opening = RegOpenKeyExW(root, kClasses, 0, KEY_READ, classes.Receive());
+  if (opening != ERROR_SUCCESS) return IgnoreMissing(opening);
   LSTATUS first = ERROR_SUCCESS;
   const auto remove = [&](bool shared) {
     for (auto row = rows.rbegin(); row != rows.rend(); ++row) {
