@@ -146,7 +146,11 @@ bool HasLeadingZeros(const Case& c) { return WeRefuseDate(c) && Has(c, "(^|[^0-9
 bool IsYearInAnotherPlace(const Case& c) {
   const bool isOfInterest = IsDateOfText(c) && (BothRead(c) || OnlyWeRefuse(c));
   if (!isOfInterest || !c.theirs.IsValue() || Has(c, "[0-9]{3}")) return false;
-  const std::string year = automation::FormatDate({c.theirs.number}, "yy", c.locale);
+  const auto yearOf = [&](double serial) {
+    return automation::FormatDate({serial}, "yy", c.locale);
+  };
+  const std::string year = yearOf(c.theirs.number);
+  if (BothRead(c) && year == yearOf(c.ours.number)) return false;
   return Has(c, ("(^|[^0-9:])" + year + "($|[^0-9:])").c_str()) ||
          (year[0] == '0' && Has(c, ("(^|[^0-9:])" + year.substr(1) + "($|[^0-9:])").c_str()));
 }
@@ -205,7 +209,7 @@ bool HasPointBeforeExponent(const Case& c) {
 
 bool IsYearOfThreeDigits(const Case& c) {
   static const std::regex padded("(^|[^0-9])0([0-9]{3})");
-  return c.conversion >= Conversion::TextOfDate &&
+  return c.conversion >= Conversion::TextOfDate && BothRead(c) &&
          std::regex_replace(c.ours.text, padded, "$1$2") == c.theirs.text;
 }
 

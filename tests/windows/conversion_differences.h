@@ -15,7 +15,7 @@ struct Difference {
   bool (*explains)(const Case& c);
 };
 
-/// In no order: a case may be explained by several.
+/// In no order. A case may be explained by several; each explains some case alone.
 const std::vector<Difference>& ListedDifferences();
 
 }  // namespace rangewerks::tests
