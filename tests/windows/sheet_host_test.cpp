@@ -5,6 +5,7 @@
 
 #include "hosts/late_calls.h"
 #include "support/error_of.h"
+#include "systems/windows/windows_system.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -65,6 +66,16 @@ TEST_F(SheetHost, TellsASelectedShapeFromCells) {
   const Object shape = GetObject(application_, "Selection");
   EXPECT_EQ(shape.TypeName(), "Rectangle");
   EXPECT_EQ(ErrorNumberOf([&] { Get(shape, "Rows"); }), 438);
+}
+
+TEST_F(SheetHost, RunsUnderThePersonsLocaleUntilItIsTold) {
+  const automation::Locale person = systems::WindowsSystem().CurrentLocale();
+  EXPECT_EQ(GetText(application_, "International", {3}), person.decimalSeparator);
+  EXPECT_EQ(GetText(application_, "International", {5}), person.listSeparator);
+  EXPECT_EQ(Get(application_, "International", {32}),
+            Variant(static_cast<std::int32_t>(person.dateOrder)));
+  Call(testing_, "SetInternational", {3, ";"});
+  EXPECT_EQ(GetText(application_, "International", {3}), ";");
 }
 
 TEST_F(SheetHost, KnowsItsOwnObjectsWhenTheyComeBack) {
