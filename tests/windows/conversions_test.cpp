@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <set>
@@ -191,6 +192,18 @@ TEST(ConversionsBesideThePlatforms, WriteWholeNumbersAndBooleansAlike) {
     }
     for (const bool truth : {false, true}) {
       EXPECT_EQ(Outcome::OfText(ToString(truth, locale)), platform.TextOf(truth));
+    }
+  }
+}
+
+TEST(ConversionsBesideThePlatforms, TellAlikeWhetherAnAmountHasItsDecimalPlaces) {
+  constexpr double kGreatest = 1e13;  // where the platform's multiplying begins to lose digits
+  for (const double number : BorderNumbers()) {
+    if (!(std::abs(number) < kGreatest)) continue;
+    for (const int places : {0, 2, 3}) {
+      EXPECT_EQ(automation::RoundHalfEven(number, places) == number,
+                PlatformConversions::Rounded(number, places).number == number)
+          << number << " to " << places;
     }
   }
 }

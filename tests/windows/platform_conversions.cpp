@@ -120,6 +120,12 @@ Outcome PlatformConversions::DateOf(double number) const {
   return NumberOr(result, SUCCEEDED(result) ? V_DATE(&to) : 0);
 }
 
+Outcome PlatformConversions::Rounded(double number, int places) {
+  double rounded = 0;
+  const HRESULT result = VarR8Round(number, places, &rounded);
+  return NumberOr(result, rounded);
+}
+
 Outcome PlatformConversions::TextOfDate(double serial) const {
   Bstr text;
   const HRESULT result = VarBstrFromDate(serial, locale_, kFlags, text.Receive());

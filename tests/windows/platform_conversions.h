@@ -32,6 +32,9 @@ class PlatformConversions {
   Outcome BooleanOf(double number) const;
   Outcome DateOf(double number) const;
 
+  /// To so many decimal places.
+  static Outcome Rounded(double number, int places);
+
   Outcome TextOfDate(double serial) const;
   Outcome FormattedDate(double serial, const std::string& pattern) const;
 
