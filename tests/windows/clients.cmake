@@ -11,3 +11,14 @@ endif()
 target_compile_definitions(test_windows PRIVATE
   RANGEWERKS_DLL=L"${root}$<TARGET_FILE:rangewerks_dll>"
   SHEETHOST_DLL=L"${root}$<TARGET_FILE:sheethost_dll>")
+
+# And scripts, each a test of its own. The runner finds the DLLs of this build by its folder.
+if(CMAKE_CROSSCOMPILING)
+  file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/windows/*.vbs")
+  foreach(script ${scripts})
+    cmake_path(GET script STEM name)
+    add_test(NAME windows_${name} COMMAND "${PROJECT_SOURCE_DIR}/tools/wine-test-script" "${script}")
+    set_tests_properties(windows_${name} PROPERTIES
+      ENVIRONMENT "RANGEWERKS_BUILD=${PROJECT_BINARY_DIR}" TIMEOUT 180)
+  endforeach()
+endif()
