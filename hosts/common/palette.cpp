@@ -29,12 +29,12 @@ std::int32_t SquaredDistance(std::int32_t left, std::int32_t right) {
 
 }  // namespace
 
-std::optional<std::int32_t> PaletteColor(std::int32_t number) {
-  if (number < 1 || number > static_cast<std::int32_t>(kPalette.size())) return std::nullopt;
-  return kPalette.at(static_cast<std::size_t>(number - 1));
+std::optional<std::int32_t> ColorOfIndex(std::int32_t index) {
+  if (index < 1 || index > static_cast<std::int32_t>(kPalette.size())) return std::nullopt;
+  return kPalette.at(static_cast<std::size_t>(index - 1));
 }
 
-std::int32_t PaletteNumberOf(std::int32_t color) {
+std::int32_t NearestColorIndex(std::int32_t color) {
   const auto* const nearest = std::ranges::min_element(
       kPalette, {}, [color](std::int32_t each) { return SquaredDistance(each, color); });
   return static_cast<std::int32_t>(nearest - kPalette.begin()) + 1;
