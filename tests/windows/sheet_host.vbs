@@ -3,7 +3,7 @@ Dim added, cells, entry, found, other, shape, value
 
 Set host = CreateObject("SheetHost.Application")
 CheckClass "the program", host, "Application"
-Check "no workbook at first", host.Workbooks.Count, 0
+CheckEqual "no workbook at first", host.Workbooks.Count, 0
 Set testing = host.Testing
 CheckClass "Testing", testing, "Testing"
 
@@ -11,13 +11,13 @@ CheckClass "Testing", testing, "Testing"
 Set book = host.Workbooks.Add
 CheckClass "a workbook", book, "Workbook"
 Set sheet = host.ActiveSheet
-Check "its sheet", sheet.Name, "Sheet1"
+CheckEqual "its sheet", sheet.Name, "Sheet1"
 Set added = book.Sheets.Add
-Check "Sheets.Add: the name", added.Name, "Sheet2"
-Check "Sheets.Add: ahead of the sheet in front", added.Index, 1
+CheckEqual "Sheets.Add: the name", added.Name, "Sheet2"
+CheckEqual "Sheets.Add: ahead of the sheet in front", added.Index, 1
 CheckIs "Sheets.Add: in front", host.ActiveSheet, added
-Check "Sheets.Add: After", book.Sheets.Add(, sheet).Index, 3
-Check "Sheets.Add: Before", book.Sheets.Add(sheet).Index, 2
+CheckEqual "Sheets.Add: After", book.Sheets.Add(, sheet).Index, 3
+CheckEqual "Sheets.Add: Before", book.Sheets.Add(sheet).Index, 2
 sheet.Activate
 CheckIs "Activate", host.ActiveSheet, sheet
 
@@ -26,48 +26,48 @@ sheet.Range("B3") = 7
 host.Cells(5, 1).Value = 12.5
 host.Cells(6, 1) = 13
 host.Range("A7") = "x"
-Check "Range.Value", sheet.Range("B2").Value, "JNL-7"
-Check "the default member of a range", sheet.Range("B3") + 0, 7
-Check "Application.Cells", sheet.Range("A5").Value, 12.5
-Check "Application.Cells without Value", sheet.Range("A6").Value, 13
-Check "Application.Range without Value", sheet.Cells(7, 1).Value, "x"
+CheckEqual "Range.Value", sheet.Range("B2").Value, "JNL-7"
+CheckEqual "the default member of a range", sheet.Range("B3") + 0, 7
+CheckEqual "Application.Cells", sheet.Range("A5").Value, 12.5
+CheckEqual "Application.Cells without Value", sheet.Range("A6").Value, 13
+CheckEqual "Application.Range without Value", sheet.Cells(7, 1).Value, "x"
 sheet.Range("A5:A6").NumberFormat = "0.00"
-Check "NumberFormat", sheet.Range("A5:A6").NumberFormat, "0.00"
-Check "NumberFormat of mixed cells", sheet.Range("A5:A7").NumberFormat, Null
+CheckEqual "NumberFormat", sheet.Range("A5:A6").NumberFormat, "0.00"
+CheckEqual "NumberFormat of mixed cells", sheet.Range("A5:A7").NumberFormat, Null
 book.Names.Add "Sheet1__amount", "=Sheet1!$A$5:$A$7"
-Check "a name", sheet.Range("Sheet1__amount").Address, "$A$5:$A$7"
+CheckEqual "a name", sheet.Range("Sheet1__amount").Address, "$A$5:$A$7"
 found = ""
 For Each entry In book.Names
   found = found & entry.Name & " " & entry
 Next
-Check "a walk over names", found, "Sheet1__amount =Sheet1!$A$5:$A$7"
+CheckEqual "a walk over names", found, "Sheet1__amount =Sheet1!$A$5:$A$7"
 found = ""
 For Each entry In sheet.Range("A5:A7")
   found = found & " " & entry.Value
 Next
-Check "a walk over cells", found, " 12.5 13 x"
+CheckEqual "a walk over cells", found, " 12.5 13 x"
 
 ' --- calls
 testing.ResetCalls
-Check "LogCalls at first", testing.LogCalls, False
+CheckEqual "LogCalls at first", testing.LogCalls, False
 value = sheet.Name
-Check "Calls without LogCalls", testing.Calls, ""
-Check "CallCount without LogCalls", testing.CallCount, 1
+CheckEqual "Calls without LogCalls", testing.Calls, ""
+CheckEqual "CallCount without LogCalls", testing.CallCount, 1
 testing.LogCalls = True
-Check "LogCalls", testing.LogCalls, True
+CheckEqual "LogCalls", testing.LogCalls, True
 testing.ResetCalls
 Set cells = sheet.Range("Sheet1__amount")
 value = cells.Cells(1, 1).Value
 cells.Item(2) = 14
 cells.Select
-Check "Calls", host.Testing.Calls, "Worksheet.Range get ""Sheet1__amount""" & vbCrLf & _
+CheckEqual "Calls", host.Testing.Calls, "Worksheet.Range get ""Sheet1__amount""" & vbCrLf & _
       "Range.Cells get 1, 1" & vbCrLf & "Range.Value get" & vbCrLf & "Range.Item let 2, 14" & vbCrLf & _
       "Range.Select call"
-Check "CallCount", testing.CallCount, 5
-Check "CallCount of one member", testing.CallCount("Range.Value"), 1
+CheckEqual "CallCount", testing.CallCount, 5
+CheckEqual "CallCount of one member", testing.CallCount("Range.Value"), 1
 testing.ResetCalls
-Check "CallCount after ResetCalls", testing.CallCount, 0
-Check "Calls after ResetCalls", testing.Calls, ""
+CheckEqual "CallCount after ResetCalls", testing.CallCount, 0
+CheckEqual "Calls after ResetCalls", testing.Calls, ""
 
 ' --- failures on request
 testing.FailMember "Range.Select", 1004, "can't select"
@@ -78,42 +78,42 @@ cells.Select
 CheckError "FailMember again", 1004, "Workbook", "can't select"
 testing.ClearFailures
 cells.Select
-Check "ClearFailures", Err.Number, 0
+CheckEqual "ClearFailures", Err.Number, 0
 testing.FailCall 2, 50290, "busy"
 value = sheet.Name
-Check "FailCall: the call before", Err.Number, 0
+CheckEqual "FailCall: the call before", Err.Number, 0
 value = sheet.Name
 CheckError "FailCall", 50290, "Workbook", "busy"
 value = sheet.Name
-Check "FailCall: the call after", Err.Number, 0
+CheckEqual "FailCall: the call after", Err.Number, 0
 testing.FailCall 0, 1004, ""
-Check "FailCall without a call", Err.Number, 5
+CheckEqual "FailCall without a call", Err.Number, 5
 Err.Clear
 testing.FailMember "Select", 1004, ""
-Check "FailMember without a type", Err.Number, 5
+CheckEqual "FailMember without a type", Err.Number, 5
 Err.Clear
 On Error GoTo 0
 
 ' --- what the object model can't set
 sheet.Range("C1").Formula = "=A5*2"
 testing.SetShownValue sheet.Range("C1"), 25
-Check "SetShownValue", sheet.Range("C1").Value, 25
-Check "a formula", sheet.Range("C1").HasFormula, True
+CheckEqual "SetShownValue", sheet.Range("C1").Value, 25
+CheckEqual "a formula", sheet.Range("C1").HasFormula, True
 testing.SetErrorValue sheet.Range("C2"), 2007
-Check "SetErrorValue", VarType(sheet.Range("C2").Value), vbError
+CheckEqual "SetErrorValue", VarType(sheet.Range("C2").Value), vbError
 testing.SetInternational 32, 1
-Check "SetInternational", host.International(32), 1
+CheckEqual "SetInternational", host.International(32), 1
 testing.SetVersion "11.0"
-Check "SetVersion", host.Version, "11.0"
+CheckEqual "SetVersion", host.Version, "11.0"
 
-Check "TrustVBProject at first", testing.TrustVBProject, False
+CheckEqual "TrustVBProject at first", testing.TrustVBProject, False
 On Error Resume Next
 Set value = book.VBProject
 CheckError "VBProject", 1004, "Workbook", "Programmatic access to Visual Basic Project is not trusted"
 testing.TrustVBProject = True
-Check "TrustVBProject", testing.TrustVBProject, True
+CheckEqual "TrustVBProject", testing.TrustVBProject, True
 Set value = book.VBProject
-Check "VBProject when trusted", Err.Number, 438
+CheckEqual "VBProject when trusted", Err.Number, 438
 Err.Clear
 On Error GoTo 0
 
@@ -122,17 +122,15 @@ Set shape = host.Selection
 CheckClass "a selected shape", shape, "Rectangle"
 On Error Resume Next
 value = shape.Rows.Count
-Check "Rows of a shape", Err.Number, 438
+CheckEqual "Rows of a shape", Err.Number, 438
 Err.Clear
 On Error GoTo 0
 sheet.Range("C3").Select
 CheckClass "selected cells", host.Selection, "Range"
-Check "their address", host.Selection.Address, "$C$3"
+CheckEqual "their address", host.Selection.Address, "$C$3"
 
 ' --- another program
 Set other = CreateObject("SheetHost.Application")
-Check "another program has its own workbooks", other.Workbooks.Count, 0
-Check "and its own version", other.Version, "16.0"
-Check "and its own log", other.Testing.CallCount, 3
-
-Finish
+CheckEqual "another program has its own workbooks", other.Workbooks.Count, 0
+CheckEqual "and its own version", other.Version, "16.0"
+CheckEqual "and its own log", other.Testing.CallCount, 3
