@@ -14,8 +14,9 @@ using RegistryValue = std::variant<std::string, std::int32_t>;
 /// The registry, or what stands in for it on a system without one.
 ///
 /// A root is the system's handle of one of its roots. The parts of a key stand between backslashes;
-/// keys and names are compared without regard to case. What is written is there for the next call,
-/// in other programs too. Nothing here raises an error: each call answers with a status.
+/// a second backslash in a row and one at the end change nothing. Keys and names are compared
+/// without regard to case. What is written is there for the next call, in other programs too.
+/// Nothing here raises an error: each call answers with a status.
 class Registry {
  public:
   /// The root of what belongs to the person, HKEY_CURRENT_USER.

@@ -28,7 +28,7 @@ class System {
   /// The day and the time of the person's time zone, to the second.
   virtual automation::Date Now() const;
   /// Where the person's settings are kept.
-  virtual std::shared_ptr<Registry> OpenRegistry() const { return nullptr; }
+  virtual std::shared_ptr<Registry> OpenRegistry() const = 0;
 };
 
 }  // namespace rangewerks::platform

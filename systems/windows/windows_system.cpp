@@ -8,6 +8,7 @@
 #include "systems/windows/locale_facts.h"
 #include "systems/windows/text.h"
 #include "systems/windows/user_name.h"
+#include "systems/windows/windows_registry.h"
 
 namespace rangewerks::systems {
 namespace {
@@ -44,6 +45,17 @@ std::optional<std::string> WindowsSystem::LoggedOnUser() const {
   return UserNameIn(buffer);
 }
 
+std::string WindowsSystem::AccountName() const {
+  std::string buffer(kUserNameSize, '\0');
+  DWORD size = kUserNameSize;
+  if (GetUserNameA(buffer.data(), &size) == 0) return {};
+  return Utf8OfAnsi(buffer.substr(0, buffer.find('\0')));
+}
+
 automation::Locale WindowsSystem::CurrentLocale() const { return ReadLocale(nullptr); }
+
+std::shared_ptr<platform::Registry> WindowsSystem::OpenRegistry() const {
+  return std::make_shared<WindowsRegistry>();
+}
 
 }  // namespace rangewerks::systems

@@ -49,7 +49,11 @@ class MemoryRegistry final : public platform::Registry {
   using Place = std::tuple<std::int32_t, std::string, std::string>;
 
   static Place PlaceOf(std::int32_t root, const std::string& key, const std::string& name) {
-    return {root, automation::FoldCase(key), automation::FoldCase(name)};
+    std::string parts;
+    for (const char c : key + '\\') {
+      if (c != '\\' || !parts.ends_with('\\')) parts += c;
+    }
+    return {root, automation::FoldCase(parts), automation::FoldCase(name)};
   }
 
   std::map<Place, std::optional<Value>> values_;

@@ -161,6 +161,15 @@ TEST_P(RegistryContract, ValuesOfOneNameUnderSeveralKeysAreApart) {
   EXPECT_FALSE(found);
 }
 
+TEST_P(RegistryContract, DoubledBackslashesAndOneAtTheEndOfAKeySayNothing) {
+  const std::string odd = "Software\\Ostrel\\\\SheetConnectors\\Rangewerks tests\\";
+  basRegistry::WriteRegistryValue(*registry, kRoot, odd, "value", 1, false);
+  EXPECT_EQ(Read("value"), Variant(std::int32_t{1}));
+  Write("value", 2);
+  EXPECT_EQ(basRegistry::ReadRegistryValue(*registry, kRoot, odd, "value"),
+            Variant(std::int32_t{2}));
+}
+
 TEST_P(RegistryContract, ASaveWithTheNameNeverWritesValueUnderValueName) {
   clsRegistrySetting setting(registry);
   setting.let_KeyPath(kTestKey);

@@ -36,6 +36,7 @@ TEST(WindowsSystem, KnowsThePersonByTheNameOfTheAccount) {
   DWORD size = account.size();
   ASSERT_NE(GetUserNameA(account.data(), &size), 0);
   EXPECT_EQ(WindowsSystem().LoggedOnUser(), std::string(account.data()));
+  EXPECT_EQ(WindowsSystem().AccountName(), account.data());
 }
 
 /// What a call leaves in a buffer of 256 blanks.
