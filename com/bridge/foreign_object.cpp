@@ -37,23 +37,6 @@ WORD FlagsOf(CallKind kind) {
 
 bool Writes(CallKind kind) { return kind == CallKind::Let || kind == CallKind::Set; }
 
-/// Carries one call out and raises what it fails with.
-void Carry(IDispatch& target, DISPID id, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
-  EXCEPINFO exception{};
-  const HRESULT answer = AskPatiently([&] {
-    exception = EXCEPINFO{};
-    UINT badArgument = 0;
-    const HRESULT outcome = target.Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters,
-                                          result, &exception, &badArgument);
-    if (outcome != DISP_E_EXCEPTION || !IsBusy(exception.scode)) return outcome;
-    SysFreeString(exception.bstrSource);
-    SysFreeString(exception.bstrDescription);
-    SysFreeString(exception.bstrHelpFile);
-    return exception.scode;
-  });
-  if (FAILED(answer)) throw FailureOf(answer, exception);
-}
-
 }  // namespace
 
 ForeignObject::~ForeignObject() { ForgetForeign(identity_.Get()); }
@@ -61,6 +44,26 @@ ForeignObject::~ForeignObject() { ForgetForeign(identity_.Get()); }
 IDispatch& ForeignObject::Required() const {
   if (!dispatch_) throw Error(ErrorNumber::MemberNotFound);
   return *dispatch_.Get();
+}
+
+/// Carries one call out and raises what it fails with.
+void ForeignObject::Carry(DISPID id, WORD flags, DISPPARAMS& parameters, VARIANT* result) const {
+  EXCEPINFO exception{};
+  const HRESULT answer = AskPatiently([&] {
+    exception = EXCEPINFO{};
+    UINT badArgument = 0;
+    const HRESULT outcome = extended_
+                                ? extended_->InvokeEx(id, LOCALE_USER_DEFAULT, flags, &parameters,
+                                                      result, &exception, nullptr)
+                                : dispatch_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, flags,
+                                                    &parameters, result, &exception, &badArgument);
+    if (outcome != DISP_E_EXCEPTION || !IsBusy(exception.scode)) return outcome;
+    SysFreeString(exception.bstrSource);
+    SysFreeString(exception.bstrDescription);
+    SysFreeString(exception.bstrHelpFile);
+    return exception.scode;
+  });
+  if (FAILED(answer)) throw FailureOf(answer, exception);
 }
 
 std::string ForeignObject::TypeName() const {
@@ -77,10 +80,17 @@ DISPID ForeignObject::IdentifierOf(Member member) {
   std::wstring name = ToWide(member.Name());
   LPOLESTR names = name.data();
   DISPID id = DISPID_UNKNOWN;
-  Require(AskPatiently(
-      [&] { return Required().GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id); }));
+  const HRESULT answer = AskPatiently(
+      [&] { return Required().GetIDsOfNames(IID_NULL, &names, 1, LOCALE_USER_DEFAULT, &id); });
+  Require(answer == E_NOTIMPL ? AskExtended(member, id) : answer);
   known_.emplace_back(member, id);
   return id;
+}
+
+HRESULT ForeignObject::AskExtended(Member member, DISPID& id) {
+  if (!extended_) extended_ = dispatch_.TryQuery<IDispatchEx>();
+  if (!extended_) return E_NOTIMPL;
+  return extended_->GetDispID(Bstr(member.Name()).Get(), fdexNameCaseInsensitive, &id);
 }
 
 void ForeignObject::IdentifyNamed(const Invocation& call, std::vector<DISPID>& names) const {
@@ -102,7 +112,7 @@ void ForeignObject::IdentifyNamed(const Invocation& call, std::vector<DISPID>& n
 }
 
 automation::Variant ForeignObject::Invoke(const Invocation& call) {
-  IDispatch& target = Required();
+  Required();
   const DISPID id = IdentifierOf(call.member);
   std::vector<DISPID> names;
   if (!call.named.empty()) IdentifyNamed(call, names);
@@ -110,8 +120,7 @@ automation::Variant ForeignObject::Invoke(const Invocation& call) {
   OwnedVariant result;
   // The references are written back even if the call fails: a member may have assigned before.
   try {
-    Carry(target, id, FlagsOf(call.kind), arguments.Parameters(),
-          Writes(call.kind) ? nullptr : &result);
+    Carry(id, FlagsOf(call.kind), arguments.Parameters(), Writes(call.kind) ? nullptr : &result);
   } catch (...) {
     arguments.WriteBack();
     throw;
@@ -125,7 +134,7 @@ std::unique_ptr<automation::Enumerator> ForeignObject::Enumerate() {
   DISPPARAMS none{};
   OwnedVariant result;
   try {
-    Carry(*dispatch_.Get(), DISPID_NEWENUM, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none, &result);
+    Carry(DISPID_NEWENUM, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none, &result);
   } catch (const Error& error) {
     if (error.Is(ErrorNumber::MemberNotFound)) throw Error(ErrorNumber::NotACollection);
     throw;

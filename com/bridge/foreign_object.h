@@ -2,6 +2,7 @@
 // sheet, the interface's own caller object.
 #pragma once
 
+#include <dispex.h>
 #include <oaidl.h>
 #include <windows.h>
 
@@ -39,10 +40,13 @@ class ForeignObject final : public automation::Dispatch {
  private:
   IDispatch& Required() const;
   DISPID IdentifierOf(Member member);
+  HRESULT AskExtended(Member member, DISPID& id);
+  void Carry(DISPID id, WORD flags, DISPPARAMS& parameters, VARIANT* result) const;
   void IdentifyNamed(const automation::Invocation& call, std::vector<DISPID>& names) const;
 
   Pointer<IUnknown> identity_;
   Pointer<IDispatch> dispatch_;
+  Pointer<IDispatchEx> extended_;  // only where IDispatch knows no names: a class of a script
   std::vector<std::pair<Member, DISPID>> known_;  // few: a walk is quicker than a hash
 };
 
