@@ -12,6 +12,7 @@
 #include "platform/basRegistry.h"
 #include "support/error_of.h"
 #include "support/fixed_system.h"
+#include "support/matches_regex.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -23,7 +24,6 @@ using automation::Variant;
 using platform::Registry;
 using ::testing::Each;
 using ::testing::ElementsAre;
-using ::testing::MatchesRegex;
 using ::testing::StartsWith;
 
 class ClsExcelFileSave : public ::testing::Test {

@@ -8,6 +8,7 @@
 
 #include "automation/dispatch.h"
 #include "support/error_of.h"
+#include "support/matches_regex.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -19,7 +20,6 @@ using automation::Object;
 using automation::Variant;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 using List = std::shared_ptr<colExInputRangeList>;
 

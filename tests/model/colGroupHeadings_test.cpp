@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "support/error_of.h"
+#include "support/matches_regex.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -16,7 +17,6 @@ using automation::Member;
 using automation::Object;
 using automation::Variant;
 using ::testing::ElementsAre;
-using ::testing::MatchesRegex;
 
 TEST(ColGroupHeadings, AddSetsTextKeyAndParent) {
   colGroupHeadings headings;

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "automation/conversions.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -13,7 +14,6 @@ using automation::Null;
 using ::testing::Contains;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 class BulkValues : public SheetFixture {
  protected:

@@ -2,6 +2,7 @@
 #include <gmock/gmock.h>
 
 #include "automation/value_list.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -11,7 +12,6 @@ using automation::Argument;
 using automation::ValueList;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 std::string LevelOf(const std::string& procedure) {
   return procedure + " of Class Module clsInterfaceRangeList Line#:[0-9]+";

@@ -1,6 +1,7 @@
 // Declaring ranges, the switches and the collection-like face of the list.
 #include <gmock/gmock.h>
 
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -9,7 +10,6 @@ namespace {
 using automation::Argument;
 using ::testing::ElementsAre;
 using ::testing::ElementsAreArray;
-using ::testing::MatchesRegex;
 
 class Declaration : public SheetFixture {};
 

@@ -21,6 +21,7 @@
 
 #include "automation/error.h"
 #include "rangelist/fault_scene.h"
+#include "support/matches_regex.h"
 
 namespace rangewerks::tests::faults {
 
@@ -269,7 +270,7 @@ inline void ExpectShown(const Operation& operation, const CleanRun& clean, std::
   ASSERT_TRUE(error) << "the failure was lost";
   EXPECT_EQ(error->Number(), shows.number);
   EXPECT_EQ(error->Description(), shows.words(clean.lines, call));
-  EXPECT_THAT(error->Source(), ::testing::MatchesRegex(shows.source));
+  EXPECT_THAT(error->Source(), MatchesRegex(shows.source));
   EXPECT_EQ(after, clean.ahead[call]) << "what came before is done and nothing behind it";
 }
 

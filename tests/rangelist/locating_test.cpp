@@ -1,6 +1,7 @@
 // Which declared ranges a sheet has, and which declared range lies under a cell.
 #include <gmock/gmock.h>
 
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -8,7 +9,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 class SetIfRangesExist : public SheetFixture {};
 

@@ -3,6 +3,7 @@
 
 #include "rangelist/ExcelFunctions.h"
 #include "support/fixed_system.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -10,7 +11,6 @@ namespace {
 
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 TEST(CorrectedSheetName, ReplacesBlanksDashesAndAmpersandsPlusAndALeadingDigit) {
   EXPECT_EQ(ExcelFunctions::CorrectedSheetName("2024 Q1-Sales & Cost+Tax"),

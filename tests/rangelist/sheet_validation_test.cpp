@@ -4,6 +4,7 @@
 
 #include "automation/conversions.h"
 #include "rangelist/ExcelFunctions.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -14,7 +15,6 @@ using automation::kApplicationErrorBase;
 using automation::Locale;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 class SheetValidation : public SheetFixture {
  protected:

@@ -1,6 +1,7 @@
 // Whether parallel detail columns have the height that they must have.
 #include <gmock/gmock.h>
 
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -10,7 +11,6 @@ using automation::Argument;
 using automation::kApplicationErrorBase;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 std::string LevelOf(const std::string& procedure) {
   return procedure + " of Class Module clsInterfaceRangeList Line#:[0-9]+";

@@ -4,6 +4,7 @@
 #include <limits>
 
 #include "automation/conversions.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -14,7 +15,6 @@ using automation::Date;
 using automation::DateOf;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 std::string LevelOf(const std::string& procedure) {
   return procedure + " of Class Module clsInterfaceRangeList Line#:[0-9]+";

@@ -6,6 +6,7 @@
 
 #include "automation/conversions.h"
 #include "rangelist/recordset.h"
+#include "support/matches_regex.h"
 #include "support/sheet_fixture.h"
 
 namespace rangewerks::tests {
@@ -16,7 +17,6 @@ using automation::DateOf;
 using automation::Null;
 using ::testing::ElementsAre;
 using ::testing::IsEmpty;
-using ::testing::MatchesRegex;
 
 std::string LevelOf(const std::string& procedure) {
   return procedure + " of Class Module clsInterfaceRangeList Line#:[0-9]+";
