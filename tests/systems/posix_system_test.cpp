@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 #include <unistd.h>
 
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "automation/conversions.h"
@@ -50,6 +52,27 @@ TEST(PosixSystem, NamesTheProgramThatItIsLinkedInto) {
   const std::string file = PosixSystem().LibraryFile();
   EXPECT_EQ(file, std::filesystem::read_symlink("/proc/self/exe").string());
   EXPECT_TRUE(std::filesystem::path(file).is_absolute());
+}
+
+TEST(PosixSystem, RunsUnderTheAccountOfThePersonWhoLoggedOn) {
+  EXPECT_EQ(PosixSystem().AccountName(), PosixSystem().LoggedOnUser());
+}
+
+/// Days since 30 December 1899 in Greenwich.
+double Greenwich() {
+  const auto since = std::chrono::system_clock::now().time_since_epoch();
+  return 25569 + std::chrono::duration<double>(since).count() / 86400;
+}
+
+TEST(PosixSystem, TellsTheTimeOfThePersonsTimeZoneToTheSecond) {
+  constexpr double kSecond = 1.0 / 86400;
+  for (const auto& [zone, hours] : {std::pair("UTC0", 0), {"EAST-5", 5}, {"WEST+11", -11}}) {
+    const Setting timeZone("TZ", zone);
+    const double before = Greenwich();
+    const double now = PosixSystem().Now().serial - hours / 24.0;
+    EXPECT_GT(now, before - 1.001 * kSecond) << zone;
+    EXPECT_LT(now, Greenwich() + 0.001 * kSecond) << zone;
+  }
 }
 
 TEST(PosixSystem, TakesTheDefaultLocaleForLocalesWithoutFacts) {
