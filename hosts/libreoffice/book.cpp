@@ -29,7 +29,8 @@ Book::Book(Session* session, const Reference<css::frame::XModel>& model, std::st
       sheets_(As<css::sheet::XSpreadsheetDocument>(model_)->getSheets()),
       inOrder_(As<css::container::XIndexAccess>(sheets_)),
       formats_(model_, session->Context()),
-      formulas_(model_) {}
+      formulas_(model_),
+      styles_(model_) {}
 
 std::string Book::Name() const {
   if (!path_.empty()) return std::filesystem::path(path_).filename().string();

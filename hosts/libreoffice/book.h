@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "automation/locale.h"
+#include "hosts/libreoffice/cell_styles.h"
 #include "hosts/libreoffice/formats.h"
 #include "hosts/libreoffice/formulas.h"
 #include "hosts/libreoffice/sheet.h"
@@ -22,7 +23,7 @@ namespace rangewerks::hosts::libreoffice {
 
 class Session;
 
-/// The sheets, names and formats of one document.
+/// The sheets, names, formats and styles of one document.
 class Book {
  public:
   /// `path` is empty for a workbook that has no file.
@@ -49,6 +50,7 @@ class Book {
   const Reference<css::frame::XController>& Controller();
   Formats& NumberFormats() noexcept { return formats_; }
   Formulas& FormulaTexts() noexcept { return formulas_; }
+  CellStyles& Styles() noexcept { return styles_; }
   /// Days from 30 December 1899 to the day that this document counts from.
   double FirstDay();
 
@@ -73,6 +75,7 @@ class Book {
   Reference<css::frame::XController> controller_;
   Formats formats_;
   Formulas formulas_;
+  CellStyles styles_;
   std::optional<double> firstDay_;
   std::vector<SheetPointer> known_;
 };

@@ -49,6 +49,55 @@ bool IsPlainNumber(const std::string& text) {
   return true;
 }
 
+/// The end, one behind, of what stands at `start` in a format and has no letters of its own
+/// meaning: a text in quotes, a character that is shown, skipped or repeated, an hour's half.
+std::size_t EndOfLiteral(const std::string& format, std::size_t start) {
+  for (const std::string_view half : {"AM/PM", "A/P"}) {
+    if (format.compare(start, half.size(), half) == 0) return start + half.size();
+  }
+  switch (format[start]) {
+    case '"':
+      return std::min(format.find('"', start + 1), format.size() - 1) + 1;
+    case '\\':
+    case '_':
+    case '*':
+      return std::min(start + 2, format.size());
+    default:
+      return start;
+  }
+}
+
+char Lower(char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; }
+
+/// "[RED]" as "[Red]", "[HH]" as "[hh]"; what has "$" in front, a currency, stays.
+std::string UsualBrackets(std::string text) {
+  if (text.starts_with("[$")) return text;
+  const bool isTime = text.find_first_not_of("[HMS]") == std::string::npos;
+  for (std::size_t i = isTime ? 1 : 2; i < text.size(); ++i) text[i] = Lower(text[i]);
+  return text;
+}
+
+/// The office writes the letters of dates and the names of colours large.
+std::string UsualSpelling(const std::string& format) {
+  if (format == kGeneral) return format;
+  std::string usual;
+  for (std::size_t i = 0; i < format.size();) {
+    std::size_t end = EndOfLiteral(format, i);
+    if (end != i) {
+      usual += format.substr(i, end - i);
+    } else if (format[i] == '[') {
+      end = std::min(format.find(']', i), format.size() - 1) + 1;
+      usual += UsualBrackets(format.substr(i, end - i));
+    } else {
+      const bool isDateLetter = std::string_view("YMDHS").find(format[i]) != std::string_view::npos;
+      usual += isDateLetter ? Lower(format[i]) : format[i];
+      end = i + 1;
+    }
+    i = end;
+  }
+  return usual;
+}
+
 Reference<css::beans::XPropertySet> PropertiesOf(const Reference<css::uno::XInterface>& cells) {
   return As<css::beans::XPropertySet>(cells);
 }
@@ -112,7 +161,7 @@ std::string Formats::TextOf(std::int32_t key) {
   const auto locale = Property<css::lang::Locale>(original, "Locale");
   const auto text = Property<OUString>(original, "FormatString");
   const std::int32_t converted = english->addNewConverted(text, locale, English());
-  return ToUtf8(Property<OUString>(english->getByKey(converted), "FormatString"));
+  return UsualSpelling(ToUtf8(Property<OUString>(english->getByKey(converted), "FormatString")));
 }
 
 std::int32_t Formats::KeyOf(const std::string& text) {

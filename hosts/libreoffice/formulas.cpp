@@ -13,6 +13,8 @@ namespace {
 /// Operation codes that stand for a value, and for a text that is neither a name nor a reference.
 constexpr std::int32_t kPushCode = 0;
 constexpr std::int32_t kUnknownCode = 14;
+/// The operation code of the separator between the rows of an array; within one it isn't told.
+constexpr std::int32_t kRowSeparatorCode = 27;
 
 bool HasLostValue(const Tokens& tokens) {
   const auto all = Elements(tokens);
@@ -105,6 +107,15 @@ std::string Formulas::Write(const Tokens& tokens, const css::table::CellAddress&
 
 std::string Formulas::WriteNative(const Tokens& tokens, const css::table::CellAddress& place) {
   return ToUtf8(Native()->printFormula(tokens, place));
+}
+
+void RequireUnderstood(const Tokens& tokens, const std::string& text) {
+  const auto all = Elements(tokens);
+  const bool isStrange =
+      std::any_of(all.begin(), all.end(), [](const css::sheet::FormulaToken& token) {
+        return token.OpCode == kUnknownCode || token.OpCode == kRowSeparatorCode;
+      });
+  if (isStrange) Fail("LibreOffice doesn't understand the formula " + text);
 }
 
 std::string NativeReference(const SheetArea& reference) {

@@ -37,6 +37,10 @@ class Formulas {
   Parser native_;
 };
 
+/// Raises 1004 when the office reads something in the formula as neither a name, a function nor a
+/// reference, or as a separator out of place. `text` is the formula as it was given.
+void RequireUnderstood(const Tokens& tokens, const std::string& text);
+
 /// A reference to cells of one sheet, as names hold it.
 struct SheetArea {
   std::string sheet;

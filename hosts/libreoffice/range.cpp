@@ -61,7 +61,23 @@ const MemberTable& Range::Members() const {
           .Get(17, "Parent", &Range::GetParent, "The sheet.")
           .Get(18, "Worksheet", &Range::GetParent, "The sheet.")
           .Get(19, "Application", &Range::GetApplication, "The application.")
-          .Method(20, "Select", &Range::Select, {}, "Selects the cells of the active sheet.");
+          .Method(20, "Select", &Range::Select, {}, "Selects the cells of the active sheet.")
+          .Get(21, "EntireColumn", &Range::GetEntireColumn, "The whole columns.")
+          .Get(22, "HorizontalAlignment", &Range::GetHorizontalAlignment,
+               "Where texts stand; null when mixed.")
+          .Let(22, "HorizontalAlignment", &Range::LetHorizontalAlignment, "Aligns every cell.")
+          .Get(23, "WrapText", &Range::GetWrapText, "Whether texts wrap; null when mixed.")
+          .Let(23, "WrapText", &Range::LetWrapText, "Makes texts wrap, or not.")
+          .Get(24, "Font", &Range::GetFont, "How texts are written.")
+          .Get(25, "Interior", &Range::GetInterior, "The fill.")
+          .Get(26, "Borders", &Range::GetBorders, {"Index"}, "One edge, or the lines inside.")
+          .Get(27, "ColumnWidth", &Range::GetColumnWidth,
+               "Width of the columns in characters; null when mixed.")
+          .Let(27, "ColumnWidth", &Range::LetColumnWidth, "Sets the width; 0 hides the columns.")
+          .Method(28, "AutoFit", &Range::AutoFit, {}, "Makes columns as wide as what they show.")
+          .Get(29, "Validation", &Range::GetValidation, "The rule of what may be entered.")
+          .Get(30, "FormatConditions", &Range::GetFormatConditions, {Optional("Index")},
+               "The conditional formats, or one of them.");
   return table;
 }
 
@@ -141,6 +157,9 @@ Variant Range::GetColumns() const {
 }
 Variant Range::GetEntireRow() const {
   return Placed(0, 1 - area_.column, area_.rows, kSheetColumns, Elements::Rows);
+}
+Variant Range::GetEntireColumn() const {
+  return Placed(1 - area_.row, 0, kSheetRows, area_.columns, Elements::Columns);
 }
 Variant Range::GetAddress() const { return AddressOf(area_); }
 

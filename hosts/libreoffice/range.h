@@ -1,7 +1,7 @@
 // The late-bound Range: one rectangle of cells.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/cells_part.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -40,6 +40,7 @@ class Range final : public HostObject {
   Variant GetRows() const;
   Variant GetColumns() const;
   Variant GetEntireRow() const;
+  Variant GetEntireColumn() const;
   Variant GetAddress() const;
   Variant GetResize(const Variant& rows, const Variant& columns) const;
   Variant GetOffset(const Variant& rows, const Variant& columns) const;
@@ -47,9 +48,22 @@ class Range final : public HostObject {
   Variant GetFormula() const;
   void LetFormula(const Variant& value);
   Variant GetHasFormula() const;
+  void ClearContents();
+
   Variant GetNumberFormat() const;
   void LetNumberFormat(const Variant& format);
-  void ClearContents();
+  Variant GetHorizontalAlignment() const;
+  void LetHorizontalAlignment(const Variant& alignment);
+  Variant GetWrapText() const;
+  void LetWrapText(bool wraps);
+  Variant GetFont() const;
+  Variant GetInterior() const;
+  Variant GetBorders(const Variant& index) const;
+  Variant GetColumnWidth() const;
+  void LetColumnWidth(const Variant& characters);
+  void AutoFit();
+  Variant GetValidation() const;
+  Variant GetFormatConditions(const Variant& index) const;
 
   Variant GetName() const;
   void LetName(const Variant& name);
@@ -64,6 +78,7 @@ class Range final : public HostObject {
                                 std::int64_t rows, std::int64_t columns,
                                 Elements elements = Elements::Cells) const;
   std::string Place() const;
+  CellBlock Block() const;
 
   BookPointer book_;
   SheetPointer sheet_;

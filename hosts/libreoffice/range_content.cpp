@@ -9,7 +9,6 @@
 #include "hosts/libreoffice/cell_writing.h"
 #include "hosts/libreoffice/defined_names.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/libreoffice/formats.h"
 #include "hosts/libreoffice/name.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/worksheet.h"
@@ -39,23 +38,6 @@ void Range::LetFormula(const Variant& value) {
 }
 
 Variant Range::GetHasFormula() const { return ReadHasFormula(*sheet_, area_); }
-
-Variant Range::GetNumberFormat() const {
-  Formats& formats = book_->NumberFormats();
-  const auto parts = FormatsOf(*sheet_, area_);
-  const std::string first = formats.TextOf(parts.front().key);
-  for (const FormattedArea& part : parts) {
-    if (part.key != parts.front().key && formats.TextOf(part.key) != first) {
-      return automation::Null();
-    }
-  }
-  return first;
-}
-
-void Range::LetNumberFormat(const Variant& format) {
-  RequireWritable(*sheet_, area_);
-  PutFormatKey(sheet_->Block(area_), book_->NumberFormats().KeyOf(TextArgument(format)));
-}
 
 void Range::ClearContents() { ClearCells(*sheet_, area_); }
 

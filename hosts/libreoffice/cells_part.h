@@ -1,0 +1,32 @@
+// The base of what a Range has beside its cells' content: fill, font, lines, validation,
+// conditional formats.
+#pragma once
+
+#include <optional>
+
+#include "hosts/libreoffice/host_object.h"
+
+namespace rangewerks::hosts::libreoffice {
+
+/// Cells of one sheet.
+struct CellBlock {
+  BookPointer book;
+  SheetPointer sheet;
+  Area area;
+};
+
+class CellsPart : public HostObject {
+ protected:
+  CellsPart(SessionPointer session, CellBlock cells)
+      : HostObject(std::move(session)), cells_(std::move(cells)) {}
+
+  void RequireAlive() const override { RequireThere(*cells_.sheet); }
+  const CellBlock& Cells() const noexcept { return cells_; }
+  Sheet& OnSheet() const noexcept { return *cells_.sheet; }
+  const Area& InArea() const noexcept { return cells_.area; }
+
+ private:
+  CellBlock cells_;
+};
+
+}  // namespace rangewerks::hosts::libreoffice

@@ -1,0 +1,167 @@
+#include "hosts/libreoffice/conditions.h"
+
+#include <algorithm>
+#include <com/sun/star/beans/PropertyValue.hpp>
+#include <com/sun/star/sheet/ConditionEntryType.hpp>
+#include <com/sun/star/sheet/ConditionOperator.hpp>
+#include <com/sun/star/sheet/XConditionEntry.hpp>
+#include <com/sun/star/sheet/XConditionalFormats.hpp>
+#include <com/sun/star/sheet/XSheetCellRanges.hpp>
+#include <com/sun/star/sheet/XSheetConditionalEntries.hpp>
+
+#include "hosts/common/name_rules.h"
+#include "hosts/libreoffice/cell_properties.h"
+#include "hosts/libreoffice/failure.h"
+
+namespace rangewerks::hosts::libreoffice {
+namespace {
+
+using css::beans::PropertyValue;
+using css::sheet::XConditionalFormat;
+using css::sheet::XSheetCellRanges;
+using css::sheet::XSheetConditionalEntries;
+using Entries = Reference<XSheetConditionalEntries>;
+
+constexpr const char* kConditions = "ConditionalFormat";
+
+std::vector<Area> AreasOf(const Reference<XConditionalFormat>& format) {
+  const auto ranges =
+      Property<Reference<XSheetCellRanges>>(As<css::beans::XPropertySet>(format), "Range");
+  const auto addresses = ranges->getRangeAddresses();
+  std::vector<Area> areas;
+  for (const auto& each : Elements(addresses)) areas.push_back(AreaOf(each));
+  return areas;
+}
+
+bool Overlap(const std::vector<Area>& areas, const Area& other) {
+  return std::any_of(areas.begin(), areas.end(),
+                     [&](const Area& each) { return CommonArea(each, other).has_value(); });
+}
+
+std::int32_t KindOf(const Condition::Part& part) {
+  return As<css::sheet::XConditionEntry>(part.Entry())->getType();
+}
+
+bool IsSame(const Condition::Part& one, const Condition::Part& other) {
+  const auto entry = one.Entry();
+  const auto otherEntry = other.Entry();
+  const auto isSame = [&](const char* name) {
+    return Property<OUString>(entry, name) == Property<OUString>(otherEntry, name);
+  };
+  return isSame("Formula1") && isSame("StyleName");
+}
+
+/// Puts a part to the condition that it belongs to: the same one, from another format.
+void Collect(std::vector<Condition>& conditions, Condition::Part part) {
+  const std::int32_t kind = KindOf(part);
+  if (kind == css::sheet::ConditionEntryType::CONDITION) {
+    for (Condition& each : conditions) {
+      if (each.kind != kind || each.parts.back().format == part.format) continue;
+      if (!IsSame(each.parts.back(), part)) continue;
+      each.parts.push_back(std::move(part));
+      return;
+    }
+  }
+  conditions.push_back({{std::move(part)}, kind});
+}
+
+/// What was added last is last in every format that it is in, however short.
+std::int32_t LastPosition(const Condition& condition) {
+  std::int32_t last = 0;
+  for (const Condition::Part& part : condition.parts) last = std::max(last, part.position);
+  return last;
+}
+
+PropertyValue Value(const char* name, const Any& value) {
+  return {ToUno(name), -1, value, css::beans::PropertyState_DIRECT_VALUE};
+}
+
+template <class Change>
+void ChangeEntries(const CellProperties& cells, const Change& change) {
+  const auto entries = Property<Entries>(cells, kConditions);
+  change(entries);
+  cells->setPropertyValue(ToUno(kConditions), Any(entries));
+}
+
+/// The conditions of cells are written as the one format that the cells then have. That keeps what
+/// there was only where each cell has one format already, made of plain conditions.
+void RequireRewritable(const CellBlock& cells, const std::vector<Condition>& conditions) {
+  const auto refuse = [&] {
+    Fail(QuotedSheetName(cells.sheet->Name()) + "!" + AddressOf(cells.area) +
+         " has conditional formats that LibreOffice can't change without losing some. Delete them "
+         "first.");
+  };
+  std::vector<Area> seen;
+  for (const Condition& condition : conditions) {
+    if (condition.kind != css::sheet::ConditionEntryType::CONDITION) refuse();
+    for (const Condition::Part& part : condition.parts) {
+      if (part.position > 0) continue;  // the areas of this format have been seen
+      for (const Area& area : part.areas) {
+        const auto common = CommonArea(area, cells.area);
+        if (!common) continue;
+        if (Overlap(seen, *common)) refuse();
+        seen.push_back(*common);
+      }
+    }
+  }
+}
+
+}  // namespace
+
+Reference<css::beans::XPropertySet> Condition::Part::Entry() const {
+  return Extract<Reference<css::beans::XPropertySet>>(format->getByIndex(position));
+}
+
+std::vector<Condition> ConditionsOf(const CellBlock& cells) {
+  const auto state = StateOf(PropertiesOf(*cells.sheet, cells.area), kConditions);
+  if (state == css::beans::PropertyState_DEFAULT_VALUE) return {};
+  const auto all = Property<Reference<css::sheet::XConditionalFormats>>(
+                       As<css::beans::XPropertySet>(cells.sheet->Cells()), "ConditionalFormats")
+                       ->getConditionalFormats();
+  std::vector<Condition> conditions;
+  for (const auto& format : Elements(all)) {
+    const std::vector<Area> areas = AreasOf(format);
+    if (!Overlap(areas, cells.area)) continue;
+    const std::int32_t count = format->getCount();
+    for (std::int32_t i = 0; i < count; ++i) Collect(conditions, {format, i, areas});
+  }
+  std::stable_sort(conditions.begin(), conditions.end(),
+                   [](const Condition& left, const Condition& right) {
+                     return LastPosition(left) < LastPosition(right);
+                   });
+  return conditions;
+}
+
+std::int32_t AddCondition(const CellBlock& cells, const std::string& formula) {
+  const std::vector<Condition> before = ConditionsOf(cells);
+  RequireRewritable(cells, before);
+  const css::table::CellAddress first(cells.sheet->Index(), cells.area.column - 1,
+                                      cells.area.row - 1);
+  const std::vector<PropertyValue> condition{
+      Value("Operator", Any(css::sheet::ConditionOperator_FORMULA)),
+      Value("Formula1", Any(ToUno(formula))), Value("SourcePosition", Any(first))};
+  for (const CellProperties& part : PartsByProperty(*cells.sheet, cells.area, kConditions)) {
+    ChangeEntries(part, [&](const Entries& entries) { entries->addNew(ToSequence(condition)); });
+  }
+  return static_cast<std::int32_t>(before.size()) + 1;
+}
+
+void ClearConditions(const CellBlock& cells) {
+  const CellProperties all = PropertiesOf(*cells.sheet, cells.area);
+  if (StateOf(all, kConditions) == css::beans::PropertyState_DEFAULT_VALUE) return;
+  ChangeEntries(all, [](const Entries& entries) { entries->clear(); });
+}
+
+void RemoveCondition(const CellBlock& cells, const Condition& condition) {
+  RequireRewritable(cells, ConditionsOf(cells));
+  for (const Condition::Part& part : condition.parts) {
+    for (const Area& area : part.areas) {
+      const auto common = CommonArea(area, cells.area);
+      if (!common) continue;
+      ChangeEntries(PropertiesOf(*cells.sheet, *common),
+                    [&](const Entries& entries) { entries->removeByIndex(part.position); });
+    }
+  }
+}
+
+}  // namespace rangewerks::hosts::libreoffice

@@ -1,0 +1,285 @@
+#include "hosts/libreoffice/validation.h"
+
+#include <algorithm>
+#include <array>
+#include <com/sun/star/sheet/ConditionOperator.hpp>
+#include <com/sun/star/sheet/ValidationAlertStyle.hpp>
+#include <com/sun/star/sheet/ValidationType.hpp>
+#include <com/sun/star/sheet/XMultiFormulaTokens.hpp>
+
+#include "automation/conversions.h"
+#include "automation/text.h"
+#include "hosts/common/name_rules.h"
+#include "hosts/common/validation_texts.h"
+#include "hosts/libreoffice/cell_writing.h"
+#include "hosts/libreoffice/failure.h"
+#include "platform/excel_constants.h"
+
+namespace rangewerks::hosts::libreoffice {
+namespace {
+
+using css::sheet::ConditionOperator;
+using css::sheet::ValidationAlertStyle;
+using css::sheet::ValidationType;
+using css::sheet::XSheetCondition;
+
+constexpr const char* kRule = "Validation";
+constexpr const char* kType = "Type";
+constexpr const char* kAlertStyle = "ErrorAlertStyle";
+constexpr const char* kIgnoreBlank = "IgnoreBlankCells";
+
+/// A text of the rule: its name, which is the office's too, and how long it may be.
+struct RuleText {
+  const char* name;
+  std::size_t longest;
+};
+constexpr std::array<RuleText, 4> kTexts{{{"ErrorTitle", kLongestValidationTitle},
+                                          {"ErrorMessage", kLongestErrorMessage},
+                                          {"InputTitle", kLongestValidationTitle},
+                                          {"InputMessage", kLongestInputMessage}}};
+
+/// A number of the object model and the office's word for it.
+template <class Office>
+struct Pair {
+  std::int32_t number;
+  Office office;
+};
+
+constexpr std::array<Pair<ValidationType>, 8> kTypes{
+    {{excel::xlValidateInputOnly, css::sheet::ValidationType_ANY},
+     {excel::xlValidateWholeNumber, css::sheet::ValidationType_WHOLE},
+     {excel::xlValidateDecimal, css::sheet::ValidationType_DECIMAL},
+     {excel::xlValidateList, css::sheet::ValidationType_LIST},
+     {4, css::sheet::ValidationType_DATE},
+     {5, css::sheet::ValidationType_TIME},
+     {excel::xlValidateTextLength, css::sheet::ValidationType_TEXT_LEN},
+     {7, css::sheet::ValidationType_CUSTOM}}};
+/// Types that a rule can be given here.
+constexpr std::array<std::int32_t, 5> kTypesToAdd{
+    excel::xlValidateInputOnly, excel::xlValidateWholeNumber, excel::xlValidateDecimal,
+    excel::xlValidateList, excel::xlValidateTextLength};
+
+constexpr std::array<Pair<ValidationAlertStyle>, 3> kAlertStyles{
+    {{excel::xlValidAlertStop, css::sheet::ValidationAlertStyle_STOP},
+     {2, css::sheet::ValidationAlertStyle_WARNING},
+     {3, css::sheet::ValidationAlertStyle_INFO}}};
+
+/// Without those that compare with two formulas.
+constexpr std::array<Pair<ConditionOperator>, 6> kOperators{
+    {{3, css::sheet::ConditionOperator_EQUAL},
+     {4, css::sheet::ConditionOperator_NOT_EQUAL},
+     {excel::xlGreater, css::sheet::ConditionOperator_GREATER},
+     {6, css::sheet::ConditionOperator_LESS},
+     {7, css::sheet::ConditionOperator_GREATER_EQUAL},
+     {excel::xlLessEqual, css::sheet::ConditionOperator_LESS_EQUAL}}};
+
+template <class Office, std::size_t size>
+Office OfficeWord(const std::array<Pair<Office>, size>& pairs, std::int32_t number,
+                  const char* what) {
+  for (const auto& pair : pairs) {
+    if (pair.number == number) return pair.office;
+  }
+  Fail(std::string("A validation can't have the ") + what + " " + std::to_string(number));
+}
+
+template <class Office, std::size_t size>
+std::int32_t NumberOf(const std::array<Pair<Office>, size>& pairs, Office office,
+                      const char* what) {
+  for (const auto& pair : pairs) {
+    if (pair.office == office) return pair.number;
+  }
+  Fail(std::string("The validation has another ") + what + " than the object model knows");
+}
+
+/// "Y,N" as the office keeps it: "Y";"N" with the quotes.
+std::string NativeList(const std::string& elements) {
+  std::string native;
+  std::size_t start = 0;
+  while (start <= elements.size()) {
+    const std::size_t end = std::min(elements.find(',', start), elements.size());
+    if (!native.empty()) native += ';';
+    native += '"';
+    for (const char c : automation::Trim(elements.substr(start, end - start))) {
+      native += c;
+      if (c == '"') native += c;
+    }
+    native += '"';
+    start = end + 1;
+  }
+  return native;
+}
+
+/// The way back. What is no list of texts is a formula, which stays.
+std::optional<std::string> ListOf(const std::string& native) {
+  if (!native.starts_with('"')) return std::nullopt;
+  std::string elements;
+  bool isInside = false;
+  for (std::size_t i = 0; i < native.size(); ++i) {
+    if (native[i] != '"') {
+      if (!isInside && native[i] != ';') return std::nullopt;
+      elements += isInside ? native[i] : ',';
+      continue;
+    }
+    const bool isDoubled = isInside && i + 1 < native.size() && native[i + 1] == '"';
+    if (isDoubled) {
+      elements += native[++i];
+    } else {
+      isInside = !isInside;
+    }
+  }
+  return elements;
+}
+
+}  // namespace
+
+const MemberTable& Validation::Members() const {
+  static const MemberTable table =
+      MemberTable::For<Validation>("Validation")
+          .Method(1, "Add", &Validation::Add,
+                  {"Type", Optional("AlertStyle"), Optional("Operator"), Optional("Formula1")},
+                  "Gives the cells a rule; fails when they have one.")
+          .Method(2, "Delete", &Validation::Delete, {}, "Takes the rule away, if there is one.")
+          .Get(3, "Type", &Validation::GetType, "What the rule is about.")
+          .Get(4, "AlertStyle", &Validation::GetAlertStyle, "What a refused entry brings.")
+          .Get(5, "Operator", &Validation::GetOperator, "How the entry is compared.")
+          .Get(6, "Formula1", &Validation::GetFormula1, "What the entry is compared with.")
+          .Get(7, "IgnoreBlank", &Validation::GetIgnoreBlank, "Whether blank cells are allowed.")
+          .Let(7, "IgnoreBlank", &Validation::LetIgnoreBlank, "Allows blank cells, or not.")
+          .Get(8, "ErrorTitle", &Validation::GetText<0>, "Title of the refusal.")
+          .Let(8, "ErrorTitle", &Validation::LetText<0>, "Sets the title, up to 32 characters.")
+          .Get(9, "ErrorMessage", &Validation::GetText<1>, "Text of the refusal.")
+          .Let(9, "ErrorMessage", &Validation::LetText<1>, "Sets the text, up to 225 characters.")
+          .Get(10, "InputTitle", &Validation::GetText<2>, "Title of the tooltip.")
+          .Let(10, "InputTitle", &Validation::LetText<2>, "Sets the title, up to 32 characters.")
+          .Get(11, "InputMessage", &Validation::GetText<3>, "Text of the tooltip.")
+          .Let(11, "InputMessage", &Validation::LetText<3>, "Sets the text, up to 255 characters.");
+  return table;
+}
+
+// --- the rule as a whole -------------------------------------------------------------------------
+
+void Validation::Add(const Variant& type, const Variant& alertStyle, const Variant& comparison,
+                     const Variant& formula1) {
+  const std::int32_t number = LongArgument(type);
+  const bool isKnown =
+      std::find(kTypesToAdd.begin(), kTypesToAdd.end(), number) != kTypesToAdd.end();
+  if (!isKnown) Fail("A validation of the type " + std::to_string(number) + " can't be added");
+  RequireWritable(OnSheet(), InArea());
+  const CellProperties cells = PropertiesOf(OnSheet(), InArea());
+  if (StateOf(cells, kRule) != css::beans::PropertyState_DEFAULT_VALUE) {
+    Fail(Place() + " has a validation already");
+  }
+  const auto rule = Property<Rule>(cells, kRule);
+  rule->setPropertyValue(ToUno(kType), Any(OfficeWord(kTypes, number, kType)));
+  if (!alertStyle.IsMissing()) {
+    rule->setPropertyValue(ToUno(kAlertStyle),
+                           Any(OfficeWord(kAlertStyles, LongArgument(alertStyle), "AlertStyle")));
+  }
+  // The office shows nothing unless it is told to.
+  rule->setPropertyValue(ToUno("ShowErrorMessage"), Any(true));
+  rule->setPropertyValue(ToUno("ShowInputMessage"), Any(true));
+  if (number != excel::xlValidateInputOnly) PutCondition(rule, number, comparison, formula1);
+  cells->setPropertyValue(ToUno(kRule), Any(rule));
+}
+
+void Validation::PutCondition(const Rule& rule, std::int32_t type, const Variant& comparison,
+                              const Variant& formula1) const {
+  const auto condition = As<XSheetCondition>(rule);
+  if (type != excel::xlValidateList) {
+    if (comparison.IsMissing()) Fail("A validation that compares needs an Operator");
+    condition->setOperator(OfficeWord(kOperators, LongArgument(comparison), "Operator"));
+  }
+  condition->setSourcePosition(FirstCell());
+  condition->setFormula1(ToUno(NativeFormula(type, formula1)));
+}
+
+std::string Validation::NativeFormula(std::int32_t type, const Variant& formula1) const {
+  const automation::Locale english;
+  std::string text = formula1.IsMissing() ? "" : ToString(formula1, english);
+  if (text.starts_with('=')) {
+    Formulas& formulas = Cells().book->FormulaTexts();
+    return formulas.WriteNative(formulas.Read(text.substr(1), FirstCell()), FirstCell());
+  }
+  if (type == excel::xlValidateList && !text.empty()) return NativeList(text);
+  if (!IsNumeric(text, english)) Fail("\"" + text + "\" is nothing to compare an entry with");
+  return text;
+}
+
+void Validation::Delete() {
+  RequireWritable(OnSheet(), InArea());
+  As<css::beans::XPropertyState>(OnSheet().Block(InArea()))->setPropertyToDefault(ToUno(kRule));
+}
+
+Validation::Rule Validation::Required() const {
+  const CellProperties cells = PropertiesOf(OnSheet(), InArea());
+  switch (StateOf(cells, kRule)) {
+    case css::beans::PropertyState_DEFAULT_VALUE:
+      Fail(Place() + " has no validation");
+    case css::beans::PropertyState_AMBIGUOUS_VALUE:
+      Fail("The cells of " + Place() + " have different validations");
+    default:
+      return Property<Rule>(cells, kRule);
+  }
+}
+
+css::table::CellAddress Validation::FirstCell() const {
+  return {OnSheet().Index(), InArea().column - 1, InArea().row - 1};
+}
+
+std::string Validation::Place() const {
+  return QuotedSheetName(OnSheet().Name()) + "!" + AddressOf(InArea());
+}
+
+// --- its parts -----------------------------------------------------------------------------------
+
+void Validation::PutProperty(const char* property, const Any& value) {
+  RequireWritable(OnSheet(), InArea());
+  const Rule rule = Required();
+  rule->setPropertyValue(ToUno(property), value);
+  PropertiesOf(OnSheet(), InArea())->setPropertyValue(ToUno(kRule), Any(rule));
+}
+
+template <std::size_t Text>
+Variant Validation::GetText() const {
+  return ToUtf8(Property<OUString>(Required(), std::get<Text>(kTexts).name));
+}
+
+template <std::size_t Text>
+void Validation::LetText(const Variant& text) {
+  const auto& [name, longest] = std::get<Text>(kTexts);
+  const std::string given = TextArgument(text);
+  const std::size_t length = automation::Length(given);
+  if (length > longest) {
+    Fail(std::string("The ") + name + " of a validation can't have " + std::to_string(length) +
+         " characters, only " + std::to_string(longest));
+  }
+  PutProperty(name, Any(ToUno(given)));
+}
+
+Variant Validation::GetIgnoreBlank() const { return Property<bool>(Required(), kIgnoreBlank); }
+void Validation::LetIgnoreBlank(bool ignores) { PutProperty(kIgnoreBlank, Any(ignores)); }
+
+Variant Validation::GetType() const {
+  return NumberOf(kTypes, Property<ValidationType>(Required(), kType), "type");
+}
+
+Variant Validation::GetAlertStyle() const {
+  return NumberOf(kAlertStyles, Property<ValidationAlertStyle>(Required(), kAlertStyle),
+                  "alert style");
+}
+
+Variant Validation::GetOperator() const {
+  return NumberOf(kOperators, As<XSheetCondition>(Required())->getOperator(), "operator");
+}
+
+Variant Validation::GetFormula1() const {
+  const Rule rule = Required();
+  const std::string native = ToUtf8(As<XSheetCondition>(rule)->getFormula1());
+  if (const auto elements = ListOf(native)) return *elements;
+  const automation::Locale english;
+  if (native.empty() || IsNumeric(native, english)) return native;
+  const Tokens tokens = As<css::sheet::XMultiFormulaTokens>(rule)->getTokens(0);
+  return "=" + Cells().book->FormulaTexts().Write(tokens, FirstCell());
+}
+
+}  // namespace rangewerks::hosts::libreoffice
