@@ -9,6 +9,7 @@ if(CMAKE_CROSSCOMPILING)
   set(root "Z:")  # where Wine shows this system's files
 endif()
 target_compile_definitions(test_windows PRIVATE
+  RANGEWERKS_SCRIPTS="${root}${CMAKE_CURRENT_SOURCE_DIR}/windows"
   RANGEWERKS_DLL=L"${root}$<TARGET_FILE:rangewerks_dll>"
   SHEETHOST_DLL=L"${root}$<TARGET_FILE:sheethost_dll>")
 
