@@ -61,6 +61,12 @@ void EnterText(Cell& cell, const std::string& text, const Locale& locale) {
   Put(cell, entry.value);
 }
 
+std::string TextOf(const Variant& value, const Locale& locale) {
+  if (const auto* boolean = value.TryGet<bool>()) return *boolean ? "TRUE" : "FALSE";
+  if (const auto* error = value.TryGet<ErrorValue>()) return CellErrorText(*error);
+  return ToString(value, locale);
+}
+
 }  // namespace
 
 bool IsDateFormat(std::string_view format) {
@@ -103,11 +109,13 @@ Variant ShownValue(const Cell& cell) {
   return *number < 0 ? cell.value : Variant(Date{*number});
 }
 
-std::string EntryText(const Cell& cell) {
-  if (cell.IsFormula()) return cell.formula;
-  if (const auto* boolean = cell.value.TryGet<bool>()) return *boolean ? "TRUE" : "FALSE";
-  if (const auto* error = cell.value.TryGet<ErrorValue>()) return CellErrorText(*error);
-  return ToString(cell.value, Locale());
+std::string EntryText(const Content& content) {
+  if (content.IsFormula()) return content.formula;
+  return TextOf(content.value, Locale());
+}
+
+std::string ShownText(const Cell& cell, const Locale& locale) {
+  return TextOf(ShownValue(cell), locale);
 }
 
 void Enter(Cell& cell, const Variant& value, const Locale& locale) {

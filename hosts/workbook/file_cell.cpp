@@ -111,8 +111,7 @@ void RequireOneKind(const JsonEntry& entry) {
 
 }  // namespace
 
-Cell ReadFileCell(const JsonEntry& entry) {
-  Cell cell;
+void ReadFileCell(const JsonEntry& entry, Cell& cell) {
   if (entry.Value().is_object()) {
     entry.RequireKeys({"value", "date", "error", "formula", "shown", "format"});
     RequireOneKind(entry);
@@ -120,15 +119,14 @@ Cell ReadFileCell(const JsonEntry& entry) {
   }
   if (entry.Has("formula")) {
     cell.formula = ReadFormula(entry.At("formula"));
-    if (!entry.Has("shown")) return cell;
+    if (!entry.Has("shown")) return;
     const Variant shown = ReadValue(entry.At("shown"));
     entry.Do([&] { PutShown(cell, shown); });
-    return cell;
+    return;
   }
   if (entry.Has("shown")) entry.Fail(R"("shown" is for a cell with a "formula")");
   const Variant value = ReadValue(entry);
   entry.Do([&] { Put(cell, value); });
-  return cell;
 }
 
 }  // namespace rangewerks::hosts::workbook

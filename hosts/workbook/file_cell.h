@@ -10,6 +10,6 @@ namespace rangewerks::hosts::workbook {
 /// "error" and "formula", and perhaps a "format"; beside a formula "shown" tells what it shows.
 /// Raises 1004 with the place for anything else, and for an integer that a double can't hold
 /// exactly.
-Cell ReadFileCell(const JsonEntry& entry);
+void ReadFileCell(const JsonEntry& entry, Cell& cell);
 
 }  // namespace rangewerks::hosts::workbook

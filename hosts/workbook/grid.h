@@ -1,4 +1,5 @@
-// The cells of one sheet. Only those that hold something take memory.
+// The cells of one sheet: what they hold and how they look. Only those that hold something take
+// memory.
 #pragma once
 
 #include <cstdint>
@@ -7,49 +8,45 @@
 #include <vector>
 
 #include "hosts/common/area.h"
+#include "hosts/workbook/area_values.h"
 #include "hosts/workbook/cell.h"
 
 namespace rangewerks::hosts::workbook {
 
 class Grid {
  public:
-  /// The cell, or an untouched one.
-  const Cell& At(Position position) const;
-  /// The cell to be changed through `change(Cell&)`. What is untouched afterwards is forgotten.
+  Cell At(Position position) const;
+  /// Changes a cell through `change(Cell&)`.
   template <class Change>
   void Update(Position position, Change change) {
-    const auto [entry, added] = cells_.try_emplace(KeyOf(position));
-    try {
-      change(entry->second);
-    } catch (...) {
-      if (entry->second.IsUntouched()) cells_.erase(entry);
-      throw;
-    }
-    if (entry->second.IsUntouched()) cells_.erase(entry);
+    Cell cell = At(position);
+    change(cell);
+    Store(position, std::move(cell));
   }
-  /// Calls `visit(const Cell&)` for every cell of the area that isn't untouched, in any order:
-  /// takes no longer than the fewer of the area's cells and the sheet's.
+  /// Calls `visit(Position, const Content&)` for every cell of the area that isn't empty, in any
+  /// order: takes no longer than the fewer of the area's cells and the sheet's.
   template <class Visit>
   void VisitStored(const Area& area, Visit visit) const {
-    if (area.Count() <= static_cast<std::int64_t>(cells_.size())) {
+    if (area.Count() <= static_cast<std::int64_t>(contents_.size())) {
       for (std::int32_t row = area.row; row <= area.LastRow(); ++row) {
         for (std::int32_t column = area.column; column <= area.LastColumn(); ++column) {
-          const auto found = cells_.find(KeyOf({row, column}));
-          if (found != cells_.end()) visit(found->second);
+          const auto found = contents_.find(KeyOf({row, column}));
+          if (found != contents_.end()) visit(Position{row, column}, found->second);
         }
       }
       return;
     }
-    for (const auto& [key, cell] : cells_) {
-      if (area.Contains(PositionOf(key))) visit(cell);
+    for (const auto& [key, content] : contents_) {
+      if (area.Contains(PositionOf(key))) visit(PositionOf(key), content);
     }
   }
-  /// All cells that aren't untouched, row by row. The pointers hold until a cell changes.
-  std::vector<std::pair<Position, const Cell*>> InOrder() const;
+  /// The places of all cells that aren't empty, row by row.
+  std::vector<Position> InOrder() const;
   /// Removes values and formulas and leaves formats.
   void ClearContents(const Area& area);
-  /// The area's number format; null when its cells differ.
-  Variant FormatOf(const Area& area) const;
+
+  const AreaValues<CellFormat>& Formats() const noexcept { return formats_; }
+  AreaValues<CellFormat>& Formats() noexcept { return formats_; }
 
  private:
   using Key = std::uint64_t;
@@ -60,8 +57,10 @@ class Grid {
   static Position PositionOf(Key key) {
     return {static_cast<std::int32_t>(key >> 32U), static_cast<std::int32_t>(key & 0xFFFFFFFFU)};
   }
+  void Store(Position position, Cell cell);
 
-  std::unordered_map<Key, Cell> cells_;
+  std::unordered_map<Key, Content> contents_;
+  AreaValues<CellFormat> formats_;
 };
 
 }  // namespace rangewerks::hosts::workbook

@@ -105,6 +105,16 @@ std::string JsonEntry::Text() const {
   return value_->get<std::string>();
 }
 
+double JsonEntry::Number() const {
+  if (!value_->is_number()) FailExpecting("a number");
+  return value_->get<double>();
+}
+
+bool JsonEntry::Boolean() const {
+  if (!value_->is_boolean()) FailExpecting("true or false");
+  return value_->get<bool>();
+}
+
 void JsonEntry::RequireKeys(std::initializer_list<const char*> keys) const {
   std::string expected;
   for (const char* key : keys) {

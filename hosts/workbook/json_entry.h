@@ -32,6 +32,9 @@ class JsonEntry {
   std::vector<JsonEntry> Elements() const;
   /// The text. Raises 1004 for anything else.
   std::string Text() const;
+  /// The number, true or false. Raise 1004 for anything else.
+  double Number() const;
+  bool Boolean() const;
 
   /// Raises 1004 unless the entry is an object whose keys are all among these.
   void RequireKeys(std::initializer_list<const char*> keys) const;

@@ -10,13 +10,22 @@
 #include "automation/dispatch.h"
 #include "hosts/common/area.h"
 #include "hosts/workbook/call_log.h"
+#include "hosts/workbook/conditional_format.h"
 #include "hosts/workbook/defined_names.h"
 #include "hosts/workbook/grid.h"
 #include "hosts/workbook/international.h"
+#include "hosts/workbook/lines.h"
+#include "hosts/workbook/validation_rule.h"
 
 namespace rangewerks::hosts::workbook {
 
 struct Book;
+
+/// In characters; none for a column as it comes.
+using ColumnWidth = std::optional<double>;
+inline constexpr double kLargestWidth = 255;
+/// Where a sheet keeps the widths of an area's columns.
+inline Area WidthsOf(const Area& area) { return {1, area.column, 1, area.columns}; }
 
 /// One sheet. `face` is the late-bound object that stands for it while anybody holds it, so that a
 /// sheet is always the same object.
@@ -24,6 +33,10 @@ struct Sheet {
   Book* book = nullptr;
   std::string name;
   Grid grid;
+  Lines lines;
+  AreaValues<ColumnWidth> widths;
+  ValidationRules validation;
+  ConditionalFormatList conditionalFormats;
   Area selection{1, 1};
   bool shapeSelected = false;  ///< instead of cells
   bool deleted = false;        ///< those who still hold it are refused everything

@@ -1,6 +1,5 @@
 #include "hosts/workbook/range.h"
 
-#include "hosts/common/name_rules.h"
 #include "hosts/workbook/application.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/name.h"
@@ -28,10 +27,7 @@ bool ReadsThenWrites(const Invocation& call) {
 }  // namespace
 
 Range::Range(SessionPointer session, SheetPointer sheet, Area area, Elements elements)
-    : ModelObject(std::move(session), kType),
-      sheet_(std::move(sheet)),
-      area_(area),
-      elements_(elements) {}
+    : CellsObject(std::move(session), kType, std::move(sheet), area), elements_(elements) {}
 
 std::shared_ptr<Range> Range::Of(SessionPointer session, const Reference& reference) {
   return std::make_shared<Range>(std::move(session), reference.sheet, reference.area);
@@ -68,12 +64,23 @@ const MemberTable& Range::Members() const {
           .Get(17, "Parent", &Range::GetParent, "The sheet.")
           .Get(18, "Worksheet", &Range::GetParent, "The sheet.")
           .Get(19, "Application", &Range::GetApplication, "The application.")
-          .Method(20, "Select", &Range::Select, {}, "Selects the cells of the active sheet.");
+          .Method(20, "Select", &Range::Select, {}, "Selects the cells of the active sheet.")
+          .Get(21, "EntireColumn", &Range::GetEntireColumn, "The whole columns.")
+          .Get(22, "HorizontalAlignment", &Range::GetHorizontalAlignment, "Null when mixed.")
+          .Let(22, "HorizontalAlignment", &Range::LetHorizontalAlignment, "Aligns every cell.")
+          .Get(23, "WrapText", &Range::GetWrapText, "Whether texts wrap; null when mixed.")
+          .Let(23, "WrapText", &Range::LetWrapText, "Lets the texts of every cell wrap, or not.")
+          .Get(24, "ColumnWidth", &Range::GetColumnWidth, "In characters; null when mixed.")
+          .Let(24, "ColumnWidth", &Range::LetColumnWidth, "Sets the width of every column.")
+          .Method(25, "AutoFit", &Range::AutoFit, {}, "Makes columns as wide as what they show.")
+          .Get(26, "Font", &Range::GetFont, "The font of the cells.")
+          .Get(27, "Interior", &Range::GetInterior, "The fill of the cells.")
+          .Get(28, "Borders", &Range::GetBorders, {Optional("Index")},
+               "The lines around and between the cells, or one of them.")
+          .Get(29, "Validation", &Range::GetValidation, "The rule of what may be entered.")
+          .Get(30, "FormatConditions", &Range::GetFormatConditions, {Optional("Index")},
+               "The conditional formats of the cells, or one of them.");
   return table;
-}
-
-void Range::RequireAlive() const {
-  if (sheet_->deleted) Refuse("The sheet of this range has been deleted");
 }
 
 Variant Range::Carry(const Invocation& call) {
@@ -153,6 +160,9 @@ Variant Range::GetColumns() const {
 Variant Range::GetEntireRow() const {
   return Placed(0, 1 - area_.column, area_.rows, kSheetColumns, Elements::Rows);
 }
+Variant Range::GetEntireColumn() const {
+  return Placed(1 - area_.row, 0, kSheetRows, area_.columns, Elements::Columns);
+}
 Variant Range::GetAddress() const { return AddressOf(area_); }
 
 Variant Range::GetResize(const Variant& rows, const Variant& columns) const {
@@ -190,8 +200,6 @@ std::unique_ptr<Enumerator> Range::Walk() {
 }
 
 // --- names, sheet, selection ---------------------------------------------------------------------
-
-std::string Range::Place() const { return QuotedSheetName(sheet_->name) + "!" + AddressOf(area_); }
 
 Variant Range::GetName() const {
   const NameContent content = Reference{sheet_, area_};

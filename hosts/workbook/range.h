@@ -1,11 +1,11 @@
 // The late-bound Range: one rectangle of cells.
 #pragma once
 
-#include "hosts/workbook/model_object.h"
+#include "hosts/workbook/cells_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class Range final : public ModelObject {
+class Range final : public CellsObject {
  public:
   /// What the elements are that Count counts and Item counts by.
   enum class Elements { Cells, Rows, Columns };
@@ -14,8 +14,6 @@ class Range final : public ModelObject {
   static std::shared_ptr<Range> Of(SessionPointer session, const Reference& reference);
 
   const MemberTable& Members() const override;
-  const SheetPointer& OnSheet() const noexcept { return sheet_; }
-  const Area& Cells() const noexcept { return area_; }
 
   Variant GetValue() const;
   void LetValue(const Variant& value);
@@ -25,7 +23,6 @@ class Range final : public ModelObject {
  protected:
   Variant Carry(const Invocation& call) override;
   std::unique_ptr<Enumerator> Walk() override;
-  void RequireAlive() const override;
 
  private:
   friend class RangeWalk;
@@ -37,6 +34,7 @@ class Range final : public ModelObject {
   Variant GetRows() const;
   Variant GetColumns() const;
   Variant GetEntireRow() const;
+  Variant GetEntireColumn() const;
   Variant GetAddress() const;
   Variant GetResize(const Variant& rows, const Variant& columns) const;
   Variant GetOffset(const Variant& rows, const Variant& columns) const;
@@ -44,9 +42,24 @@ class Range final : public ModelObject {
   Variant GetFormula() const;
   void LetFormula(const Variant& value);
   Variant GetHasFormula() const;
-  Variant GetNumberFormat() const;
-  void LetNumberFormat(const Variant& format);
   void ClearContents();
+
+  Variant GetNumberFormat() const;
+  void LetNumberFormat(const std::string& format);
+  Variant GetHorizontalAlignment() const;
+  void LetHorizontalAlignment(std::int32_t alignment);
+  Variant GetWrapText() const;
+  void LetWrapText(bool wraps);
+  Variant GetColumnWidth() const;
+  void LetColumnWidth(double width);
+  void AutoFit();
+  Variant GetFont() const;
+  Variant GetInterior() const;
+  /// All lines around and between the cells, or one of them.
+  Variant GetBorders(const Variant& index) const;
+  Variant GetValidation() const;
+  /// All conditional formats of the cells, or one of them.
+  Variant GetFormatConditions(const Variant& index) const;
 
   Variant GetName() const;
   void LetName(const Variant& name);
@@ -64,10 +77,7 @@ class Range final : public ModelObject {
   Variant ReadCells(Read read) const;
   template <class Write>
   void WriteCells(const Variant& value, Write write);
-  std::string Place() const;
 
-  SheetPointer sheet_;
-  Area area_;
   Elements elements_;
 };
 

@@ -1,4 +1,4 @@
-// What the cells of a Range hold: values, formulas, formats.
+// What the cells of a Range hold: values and formulas.
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/range.h"
 #include "platform/excel_constants.h"
@@ -86,17 +86,11 @@ void Range::LetFormula(const Variant& value) {
 
 Variant Range::GetHasFormula() const {
   std::int64_t formulas = 0;
-  sheet_->grid.VisitStored(area_, [&](const Cell& cell) { formulas += cell.IsFormula() ? 1 : 0; });
+  sheet_->grid.VisitStored(area_, [&](Position /*place*/, const Content& content) {
+    formulas += content.IsFormula() ? 1 : 0;
+  });
   if (formulas == 0) return false;
   return formulas == area_.Count() ? Variant(true) : Variant(automation::Null());
-}
-
-Variant Range::GetNumberFormat() const { return sheet_->grid.FormatOf(area_); }
-
-void Range::LetNumberFormat(const Variant& format) {
-  std::string text = TextArgument(format);
-  if (automation::EqualText(text, kGeneralFormat)) text.clear();
-  WriteCells({}, [&](Cell& cell, const Variant&) { cell.format = text; });
 }
 
 void Range::ClearContents() { sheet_->grid.ClearContents(area_); }

@@ -12,6 +12,7 @@
 #include "hosts/workbook/file_locale.h"
 #include "hosts/workbook/json_entry.h"
 #include "hosts/workbook/name.h"
+#include "hosts/workbook/sheet_formats_reading.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
@@ -62,11 +63,10 @@ InternationalFacts ReadInternational(const JsonEntry& entry) {
 // --- sheets --------------------------------------------------------------------------------------
 
 void PutCell(Sheet& sheet, Position position, const JsonEntry& entry) {
-  if (!sheet.grid.At(position).IsUntouched()) {
+  if (!sheet.grid.At(position).IsEmpty()) {
     entry.Fail("cell " + AddressOf({position.row, position.column}) + " is given twice");
   }
-  const Cell read = ReadFileCell(entry);
-  sheet.grid.Update(position, [&](Cell& cell) { cell = read; });
+  sheet.grid.Update(position, [&](Cell& cell) { ReadFileCell(entry, cell); });
 }
 
 Position PlaceOf(const std::string& address, const JsonEntry& entry) {
@@ -93,10 +93,12 @@ void ReadBlock(Sheet& sheet, const JsonEntry& block) {
 }
 
 void ReadSheet(Book& book, const JsonEntry& entry) {
-  entry.RequireKeys({"name", "cells", "rows"});
+  entry.RequireKeys(
+      {"name", "cells", "rows", "formats", "lines", "widths", "validation", "conditional_formats"});
   const JsonEntry name = entry.At("name");
   const std::string text = name.Text();
   const SheetPointer sheet = name.Do([&] { return book.AddSheet(text); });
+  ReadSheetFormats(*sheet, entry);  // ahead of the cells: a date keeps the format that is there
   if (entry.Has("cells")) {
     for (const auto& [address, cell] : entry.At("cells").Members()) {
       PutCell(*sheet, PlaceOf(address, cell), cell);

@@ -7,6 +7,7 @@
 #include "hosts/common/cell_errors.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/file_locale.h"
+#include "hosts/workbook/sheet_formats_writing.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {
@@ -50,31 +51,21 @@ Json JsonOfValue(const Cell& cell) {
 
 Json JsonOfCell(const Cell& cell) {
   Json value = JsonOfValue(cell);
-  if (cell.IsFormula()) {
-    Json entry = {{"formula", cell.formula}};
-    if (!cell.value.IsEmpty()) entry["shown"] = std::move(value);
-    if (!cell.format.empty()) entry["format"] = cell.format;
-    return entry;
-  }
-  if (cell.format.empty()) return value;
-  Json entry = value.is_object() ? std::move(value) : Json{{"value", std::move(value)}};
-  entry["format"] = cell.format;
+  if (!cell.IsFormula()) return value;
+  Json entry = {{"formula", cell.formula}};
+  if (!cell.value.IsEmpty()) entry["shown"] = std::move(value);
   return entry;
-}
-
-std::string PlainAddress(Position position) {
-  std::string address = AddressOf({position.row, position.column});
-  std::erase(address, '$');
-  return address;
 }
 
 Json JsonOfSheet(const Sheet& sheet) {
   Json::object_t cells;  // filled at its end: no address stands twice
-  for (const auto& [position, cell] : sheet.grid.InOrder()) {
-    cells.emplace_back(PlainAddress(position), JsonOfCell(*cell));
+  for (const Position position : sheet.grid.InOrder()) {
+    cells.emplace_back(PlainAddressOf({position.row, position.column}),
+                       JsonOfCell(sheet.grid.At(position)));
   }
   Json entry = {{"name", sheet.name}};
   if (!cells.empty()) entry["cells"] = std::move(cells);
+  AddSheetFormats(entry, sheet);
   return entry;
 }
 

@@ -64,17 +64,12 @@ TEST_F(WorkbookWriting, WritesAFileThatTellsTheWholeWorkbook) {
    "cells": {
     "AA1": true,
     "B2": 12.5,
-    "B3": {
-     "value": "007",
-     "format": "@"
-    },
+    "B3": "007",
     "B4": {
-     "date": "2024-01-31",
-     "format": "m/d/yyyy"
+     "date": "2024-01-31"
     },
     "B5": {
-     "value": 45322.75,
-     "format": "m/d/yyyy h:mm"
+     "value": 45322.75
     },
     "B6": {
      "error": "#DIV/0!"
@@ -86,12 +81,26 @@ TEST_F(WorkbookWriting, WritesAFileThatTellsTheWholeWorkbook) {
     "B8": {
      "formula": "=NOW()"
     },
-    "B9": {
-     "value": null,
-     "format": "0.00"
-    },
     "A10": "text"
-   }
+   },
+   "formats": [
+    {
+     "at": "B3",
+     "number": "@"
+    },
+    {
+     "at": "B4",
+     "number": "m/d/yyyy"
+    },
+    {
+     "at": "B5",
+     "number": "m/d/yyyy h:mm"
+    },
+    {
+     "at": "B9",
+     "number": "0.00"
+    }
+   ]
   },
   {
    "name": "Notes"

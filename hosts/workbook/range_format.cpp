@@ -1,0 +1,109 @@
+// How the cells of a Range look, and what may be entered into them.
+#include <algorithm>
+#include <map>
+
+#include "automation/text.h"
+#include "hosts/workbook/borders.h"
+#include "hosts/workbook/failure.h"
+#include "hosts/workbook/font.h"
+#include "hosts/workbook/format_conditions.h"
+#include "hosts/workbook/interior.h"
+#include "hosts/workbook/range.h"
+#include "hosts/workbook/validation.h"
+
+namespace rangewerks::hosts::workbook {
+namespace {
+
+constexpr double kStandardWidth = 8.43;
+
+}  // namespace
+
+// --- numbers and texts ---------------------------------------------------------------------------
+
+Variant Range::GetNumberFormat() const {
+  const auto format = sheet_->grid.Formats().Common(area_, &CellFormat::number);
+  return format && format->empty() ? Variant(kGeneralFormat) : ValueOrNull(format);
+}
+
+void Range::LetNumberFormat(const std::string& format) {
+  const bool general = automation::EqualText(format, kGeneralFormat);
+  sheet_->grid.Formats().Change(
+      area_, [&](CellFormat& each) { each.number = general ? std::string() : format; });
+}
+
+Variant Range::GetHorizontalAlignment() const {
+  return ValueOrNull(sheet_->grid.Formats().Common(area_, &CellFormat::alignment));
+}
+
+void Range::LetHorizontalAlignment(std::int32_t alignment) {
+  const auto known = {std::int32_t{excel::xlGeneral}, std::int32_t{excel::xlLeft}, kCenter,
+                      std::int32_t{excel::xlRight}};
+  if (std::ranges::find(known, alignment) == known.end()) {
+    Refuse(
+        "HorizontalAlignment is 1 (general), -4131 (left), -4108 (center) or -4152 (right), not " +
+        std::to_string(alignment));
+  }
+  sheet_->grid.Formats().Change(area_,
+                                [alignment](CellFormat& format) { format.alignment = alignment; });
+}
+
+Variant Range::GetWrapText() const {
+  return ValueOrNull(sheet_->grid.Formats().Common(area_, &CellFormat::wraps));
+}
+
+void Range::LetWrapText(bool wraps) {
+  sheet_->grid.Formats().Change(area_, [wraps](CellFormat& format) { format.wraps = wraps; });
+}
+
+// --- column widths -------------------------------------------------------------------------------
+
+Variant Range::GetColumnWidth() const {
+  return ValueOrNull(sheet_->widths.Common(
+      WidthsOf(area_), [](const ColumnWidth& width) { return width.value_or(kStandardWidth); }));
+}
+
+void Range::LetColumnWidth(double width) {
+  if (!(width >= 0 && width <= kLargestWidth)) {
+    Refuse("A column's width is 0 to 255 characters, not " + automation::ToString(width, {}));
+  }
+  sheet_->widths.Set(WidthsOf(area_), width);
+}
+
+void Range::AutoFit() {
+  if (area_.rows != kSheetRows) {
+    Refuse("Only whole columns can be made as wide as what they show, not " + Place());
+  }
+  std::map<std::int32_t, std::size_t> longest;
+  sheet_->grid.VisitStored(area_, [&](Position place, const Content& /*content*/) {
+    const Cell cell = sheet_->grid.At(place);
+    const std::size_t length =
+        automation::Length(ShownText(cell, Shared()->international.CurrentLocale()));
+    std::size_t& width = longest[place.column];
+    width = std::max(width, length);
+  });
+  for (const auto& [column, length] : longest) {
+    if (length == 0) continue;  // what shows nothing keeps its width
+    sheet_->widths.Set({1, column}, std::min(static_cast<double>(length), kLargestWidth));
+  }
+}
+
+// --- what has an object of its own ---------------------------------------------------------------
+
+Variant Range::GetFont() const { return std::make_shared<Font>(Shared(), sheet_, area_); }
+Variant Range::GetInterior() const { return std::make_shared<CellFill>(Shared(), sheet_, area_); }
+
+Variant Range::GetBorders(const Variant& index) const {
+  const auto borders = std::make_shared<Borders>(Shared(), sheet_, area_);
+  return index.IsMissing() ? Variant(borders) : borders->GetItem(LongArgument(index));
+}
+
+Variant Range::GetValidation() const {
+  return std::make_shared<Validation>(Shared(), sheet_, area_);
+}
+
+Variant Range::GetFormatConditions(const Variant& index) const {
+  const auto conditions = std::make_shared<FormatConditions>(Shared(), sheet_, area_);
+  return index.IsMissing() ? Variant(conditions) : conditions->GetItem(LongArgument(index));
+}
+
+}  // namespace rangewerks::hosts::workbook

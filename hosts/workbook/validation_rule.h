@@ -1,0 +1,50 @@
+// The rule of what may be entered into a cell, with its messages.
+#pragma once
+
+#include <array>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string>
+
+#include "hosts/workbook/area_values.h"
+#include "platform/excel_constants.h"
+
+namespace rangewerks::hosts::workbook {
+
+struct ValidationRule {
+  std::int32_t type = excel::xlValidateInputOnly;
+  std::int32_t alertStyle = excel::xlValidAlertStop;
+  std::int32_t comparison = 1;  ///< of the numbers of Validation.Operator
+  std::string formula;          ///< as it was given
+  bool ignoresBlank = true;
+  std::string errorTitle;
+  std::string errorMessage;
+  std::string inputTitle;
+  std::string inputMessage;
+  friend bool operator==(const ValidationRule&, const ValidationRule&) = default;
+};
+
+/// A text of a rule by its member's name, and the most characters that it can have.
+struct RuleText {
+  const char* member;
+  std::string ValidationRule::*text;
+  std::size_t longest;
+};
+inline constexpr std::array<RuleText, 4> kRuleTexts{
+    {{"ErrorTitle", &ValidationRule::errorTitle, 32},
+     {"ErrorMessage", &ValidationRule::errorMessage, 225},
+     {"InputTitle", &ValidationRule::inputTitle, 32},
+     {"InputMessage", &ValidationRule::inputMessage, 255}}};
+
+/// The rules of a sheet: a cell has one or none.
+using ValidationRules = AreaValues<std::optional<ValidationRule>>;
+
+/// Whether rules of that type compare the entry with their formula.
+bool Compares(std::int32_t type);
+/// Raises 1004 for a text that is too long.
+void RequireLength(const RuleText& text, const std::string& value);
+/// Gives the cells a rule. Raises 1004 for a rule that can't be, and when a cell has one already.
+void AddRule(ValidationRules& rules, const Area& area, const ValidationRule& rule);
+
+}  // namespace rangewerks::hosts::workbook
