@@ -7,6 +7,7 @@
 #include <optional>
 #include <string>
 
+#include "hosts/common/validation_texts.h"
 #include "hosts/workbook/area_values.h"
 #include "platform/excel_constants.h"
 
@@ -32,10 +33,10 @@ struct RuleText {
   std::size_t longest;
 };
 inline constexpr std::array<RuleText, 4> kRuleTexts{
-    {{"ErrorTitle", &ValidationRule::errorTitle, 32},
-     {"ErrorMessage", &ValidationRule::errorMessage, 225},
-     {"InputTitle", &ValidationRule::inputTitle, 32},
-     {"InputMessage", &ValidationRule::inputMessage, 255}}};
+    {{"ErrorTitle", &ValidationRule::errorTitle, kLongestValidationTitle},
+     {"ErrorMessage", &ValidationRule::errorMessage, kLongestErrorMessage},
+     {"InputTitle", &ValidationRule::inputTitle, kLongestValidationTitle},
+     {"InputMessage", &ValidationRule::inputMessage, kLongestInputMessage}}};
 
 /// The rules of a sheet: a cell has one or none.
 using ValidationRules = AreaValues<std::optional<ValidationRule>>;

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
-class ConditionalFormatsContract : public FormatsContractBase {
+class ConditionalFormatsContract : public HostContract {
  protected:
   Object Conditions(const char* address) { return GetObject(Cells(address), "FormatConditions"); }
   Object Condition(const char* address, std::int32_t index) {

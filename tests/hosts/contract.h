@@ -38,15 +38,6 @@ class HostContract : public testing::TestWithParam<HostFactory> {
   Object dataSheet_;  ///< "Data Sheet"
 };
 
-/// The part of the contract that is about how cells look and what may be entered into them.
-class FormatsContractBase : public HostContract {
- protected:
-  void SetUp() override {
-    HostContract::SetUp();
-    if (!host_->HasFormats()) GTEST_SKIP() << "this host has no formats yet";
-  }
-};
-
 }  // namespace rangewerks::tests
 
 #define CONTRACT_FOR_ALL_HOSTS(Suite)               \

@@ -9,7 +9,7 @@ using automation::Null;
 
 constexpr std::int32_t kWhite = 0xFFFFFF;
 
-class FormatsContract : public FormatsContractBase {
+class FormatsContract : public HostContract {
  protected:
   Object Interior(const char* address) { return GetObject(Cells(address), "Interior"); }
   Object Border(const char* address, std::int32_t index) {

@@ -21,8 +21,6 @@ class HostUnderTest {
   virtual automation::Object Application() = 0;
   /// A new workbook with these sheets; it is the active one and its first sheet is in front.
   virtual automation::Object NewWorkbook(const std::vector<std::string>& sheets) = 0;
-  /// Whether ranges have formats, validation and conditional formats.
-  virtual bool HasFormats() const { return true; }
   /// Puts a formula (as the user types it in English, such as "=1+1") into one cell, showing
   /// `shown`.
   virtual void PutFormula(const automation::Object& cell, const std::string& formula,

@@ -7,7 +7,7 @@ namespace {
 
 constexpr std::int32_t kApplicationDefined = 1004;
 
-class ValidationContract : public FormatsContractBase {
+class ValidationContract : public HostContract {
  protected:
   Object Validation(const char* address) { return GetObject(Cells(address), "Validation"); }
 

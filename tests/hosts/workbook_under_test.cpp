@@ -15,7 +15,6 @@ class WorkbookUnderTest final : public HostUnderTest {
   Object NewWorkbook(const std::vector<std::string>& sheets) override {
     return host_.AddWorkbook("Book" + std::to_string(++books_), sheets);
   }
-  bool HasFormats() const override { return false; }
   void PutFormula(const Object& cell, const std::string& formula, const Variant& shown) override {
     static const Member kFormula{"Formula"};
     cell.Let(kFormula, formula);
