@@ -3,12 +3,14 @@
 rangewerks_tests(windows com_server rangelist rangewerks_interfaces hosts_workbook systems_windows)
 file(GLOB contract CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/hosts/*_contract_test.cpp")
 target_sources(test_windows PRIVATE ${contract})
-add_dependencies(test_windows rangewerks_dll sheethost_dll)
+add_dependencies(test_windows rangewerks_dll sheethost_dll posting_servers)
 set(root "")
 if(CMAKE_CROSSCOMPILING)
   set(root "Z:")  # where Wine shows this system's files
 endif()
 target_compile_definitions(test_windows PRIVATE
+  RANGEWERKS_MANIFESTS="${root}${PROJECT_SOURCE_DIR}/com"
+  RANGEWERKS_SAMPLE_PROGRAM="${root}$<TARGET_FILE_DIR:posting>"
   RANGEWERKS_SCRIPTS="${root}${CMAKE_CURRENT_SOURCE_DIR}/windows"
   RANGEWERKS_DLL=L"${root}$<TARGET_FILE:rangewerks_dll>"
   SHEETHOST_DLL=L"${root}$<TARGET_FILE:sheethost_dll>")
@@ -22,4 +24,14 @@ if(CMAKE_CROSSCOMPILING)
     set_tests_properties(windows_${name} PROPERTIES
       ENVIRONMENT "RANGEWERKS_BUILD=${PROJECT_BINARY_DIR}" TIMEOUT 180)
   endforeach()
+
+  # The samples print the same, whatever they are written in.
+  set(samples "${PROJECT_SOURCE_DIR}/examples/windows")
+  set(prints "${PROJECT_SOURCE_DIR}/tools/wine-prints" "${samples}/posting.txt")
+  add_test(NAME windows_sample_vbs
+    COMMAND ${prints} "${PROJECT_SOURCE_DIR}/tools/wine-cscript" "${samples}/posting.vbs")
+  add_test(NAME windows_sample_cpp
+    COMMAND ${prints} "${PROJECT_SOURCE_DIR}/tools/wine-run" "$<TARGET_FILE:posting>")
+  set_tests_properties(windows_sample_vbs windows_sample_cpp PROPERTIES
+    ENVIRONMENT "RANGEWERKS_BUILD=${PROJECT_BINARY_DIR}" TIMEOUT 180)
 endif()
