@@ -85,6 +85,21 @@ std::optional<Area> CommonArea(const Area& first, const Area& second) {
                      std::min(first.LastColumn(), second.LastColumn()) - column + 1);
 }
 
+std::vector<Area> AreaWithout(const Area& area, const Area& other) {
+  const auto hole = CommonArea(area, other);
+  if (!hole) return {area};
+  std::vector<Area> left;
+  const auto keep = [&](std::int32_t row, std::int32_t column, std::int32_t rows,
+                        std::int32_t columns) {
+    if (const auto part = AreaOnSheet(row, column, rows, columns)) left.push_back(*part);
+  };
+  keep(area.row, area.column, hole->row - area.row, area.columns);
+  keep(hole->row, area.column, hole->rows, hole->column - area.column);
+  keep(hole->row, hole->LastColumn() + 1, hole->rows, area.LastColumn() - hole->LastColumn());
+  keep(hole->LastRow() + 1, area.column, area.LastRow() - hole->LastRow(), area.columns);
+  return left;
+}
+
 std::optional<Area> ParseAddress(std::string_view text) {
   const std::size_t colon = text.find(':');
   const auto first = ReadCorner(text.substr(0, colon));

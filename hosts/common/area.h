@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace rangewerks::hosts {
 
@@ -44,6 +45,8 @@ std::optional<Area> AreaOnSheet(std::int64_t row, std::int64_t column, std::int6
 Area BoundingArea(const Area& first, const Area& second);
 /// What both have, if anything.
 std::optional<Area> CommonArea(const Area& first, const Area& second);
+/// What is left of an area without the cells of another: up to four areas.
+std::vector<Area> AreaWithout(const Area& area, const Area& other);
 
 /// Reads "C3", "$C$3", "c3:d10", "A:C" or "3:5", each part with or without "$". None for anything
 /// else, and for cells outside the sheet.

@@ -2,10 +2,12 @@
 
 #include <algorithm>
 #include <com/sun/star/beans/PropertyValue.hpp>
+#include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/ConditionOperator.hpp>
 #include <com/sun/star/sheet/XConditionEntry.hpp>
 #include <com/sun/star/sheet/XConditionalFormats.hpp>
+#include <com/sun/star/sheet/XSheetCellRangeContainer.hpp>
 #include <com/sun/star/sheet/XSheetCellRanges.hpp>
 #include <com/sun/star/sheet/XSheetConditionalEntries.hpp>
 
@@ -31,6 +33,20 @@ std::vector<Area> AreasOf(const Reference<XConditionalFormat>& format) {
   std::vector<Area> areas;
   for (const auto& each : Elements(addresses)) areas.push_back(AreaOf(each));
   return areas;
+}
+
+void PutAreas(const CellBlock& cells, const Reference<XConditionalFormat>& format,
+              const std::vector<Area>& areas) {
+  const auto ranges = As<css::lang::XMultiServiceFactory>(cells.book->Model())
+                          ->createInstance(ToUno("com.sun.star.sheet.SheetCellRanges"));
+  const auto list = As<css::sheet::XSheetCellRangeContainer>(ranges);
+  const std::int16_t sheet = cells.sheet->Index();
+  for (const Area& area : areas) {
+    list->addRangeAddress(
+        {sheet, area.column - 1, area.row - 1, area.LastColumn() - 1, area.LastRow() - 1}, false);
+  }
+  As<css::beans::XPropertySet>(format)->setPropertyValue(ToUno("Range"),
+                                                         Any(As<XSheetCellRanges>(ranges)));
 }
 
 bool Overlap(const std::vector<Area>& areas, const Area& other) {
@@ -81,6 +97,22 @@ void ChangeEntries(const CellProperties& cells, const Change& change) {
   const auto entries = Property<Entries>(cells, kConditions);
   change(entries);
   cells->setPropertyValue(ToUno(kConditions), Any(entries));
+}
+
+/// Takes the cells from the areas of their formats. The office does so itself when they get other
+/// conditions, but loses count where a format begins in the first row of the cells.
+void Detach(const CellBlock& cells, const std::vector<Condition>& conditions) {
+  for (const Condition& condition : conditions) {
+    for (const Condition::Part& part : condition.parts) {
+      if (part.position > 0) continue;  // the format has been seen to with its first condition
+      std::vector<Area> left;
+      for (const Area& area : part.areas) {
+        for (const Area& each : AreaWithout(area, cells.area)) left.push_back(each);
+      }
+      // A format with nothing left goes when its cells get others.
+      if (!left.empty()) PutAreas(cells, part.format, left);
+    }
+  }
 }
 
 /// The conditions of cells are written as the one format that the cells then have. That keeps what
@@ -135,6 +167,7 @@ std::vector<Condition> ConditionsOf(const CellBlock& cells) {
 std::int32_t AddCondition(const CellBlock& cells, const std::string& formula) {
   const std::vector<Condition> before = ConditionsOf(cells);
   RequireRewritable(cells, before);
+  Detach(cells, before);
   const css::table::CellAddress first(cells.sheet->Index(), cells.area.column - 1,
                                       cells.area.row - 1);
   const std::vector<PropertyValue> condition{
@@ -147,13 +180,17 @@ std::int32_t AddCondition(const CellBlock& cells, const std::string& formula) {
 }
 
 void ClearConditions(const CellBlock& cells) {
-  const CellProperties all = PropertiesOf(*cells.sheet, cells.area);
-  if (StateOf(all, kConditions) == css::beans::PropertyState_DEFAULT_VALUE) return;
-  ChangeEntries(all, [](const Entries& entries) { entries->clear(); });
+  const std::vector<Condition> before = ConditionsOf(cells);
+  if (before.empty()) return;
+  Detach(cells, before);
+  ChangeEntries(PropertiesOf(*cells.sheet, cells.area),
+                [](const Entries& entries) { entries->clear(); });
 }
 
 void RemoveCondition(const CellBlock& cells, const Condition& condition) {
-  RequireRewritable(cells, ConditionsOf(cells));
+  const std::vector<Condition> before = ConditionsOf(cells);
+  RequireRewritable(cells, before);
+  Detach(cells, before);
   for (const Condition::Part& part : condition.parts) {
     for (const Area& area : part.areas) {
       const auto common = CommonArea(area, cells.area);

@@ -105,6 +105,10 @@ std::string Formulas::Write(const Tokens& tokens, const css::table::CellAddress&
   return ToUtf8(Excel()->printFormula(tokens, place));
 }
 
+Tokens Formulas::ReadNative(const std::string& formula, const css::table::CellAddress& place) {
+  return Native()->parseFormula(ToUno(formula), place);
+}
+
 std::string Formulas::WriteNative(const Tokens& tokens, const css::table::CellAddress& place) {
   return ToUtf8(Native()->printFormula(tokens, place));
 }

@@ -23,7 +23,8 @@ class Formulas {
   /// understands as it is meant: an error value inside it, or a sheet that doesn't exist.
   Tokens Read(const std::string& formula, const css::table::CellAddress& place);
   std::string Write(const Tokens& tokens, const css::table::CellAddress& place);
-  /// In the office's own notation.
+  /// The same in the office's own notation.
+  Tokens ReadNative(const std::string& formula, const css::table::CellAddress& place);
   std::string WriteNative(const Tokens& tokens, const css::table::CellAddress& place);
 
  private:

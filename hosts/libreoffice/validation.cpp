@@ -5,7 +5,6 @@
 #include <com/sun/star/sheet/ConditionOperator.hpp>
 #include <com/sun/star/sheet/ValidationAlertStyle.hpp>
 #include <com/sun/star/sheet/ValidationType.hpp>
-#include <com/sun/star/sheet/XMultiFormulaTokens.hpp>
 
 #include "automation/conversions.h"
 #include "automation/text.h"
@@ -273,13 +272,12 @@ Variant Validation::GetOperator() const {
 }
 
 Variant Validation::GetFormula1() const {
-  const Rule rule = Required();
-  const std::string native = ToUtf8(As<XSheetCondition>(rule)->getFormula1());
+  std::string native = ToUtf8(As<XSheetCondition>(Required())->getFormula1());
   if (const auto elements = ListOf(native)) return *elements;
   const automation::Locale english;
   if (native.empty() || IsNumeric(native, english)) return native;
-  const Tokens tokens = As<css::sheet::XMultiFormulaTokens>(rule)->getTokens(0);
-  return "=" + Cells().book->FormulaTexts().Write(tokens, FirstCell());
+  Formulas& formulas = Cells().book->FormulaTexts();
+  return "=" + formulas.Write(formulas.ReadNative(native, FirstCell()), FirstCell());
 }
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -5,9 +5,6 @@
 #include <com/sun/star/beans/NamedValue.hpp>
 #include <com/sun/star/beans/PropertyValue.hpp>
 #include <com/sun/star/frame/XStorable.hpp>
-#include <com/sun/star/sheet/ConditionOperator.hpp>
-#include <com/sun/star/sheet/ValidationType.hpp>
-#include <com/sun/star/sheet/XSheetCondition.hpp>
 #include <com/sun/star/util/CellProtection.hpp>
 #include <com/sun/star/util/Date.hpp>
 #include <com/sun/star/util/XProtectable.hpp>
@@ -68,31 +65,6 @@ inline css::uno::Reference<css::beans::XPropertySet> PropertiesOf(const Object& 
 inline void Unlock(const Object& range) {
   const css::util::CellProtection open(false, false, false, false);
   PropertiesOf(range)->setPropertyValue(lo::ToUno("CellProtection"), css::uno::Any(open));
-}
-
-inline css::uno::Reference<css::beans::XPropertySet> ValidationOf(const Object& range) {
-  css::uno::Reference<css::beans::XPropertySet> rule;
-  PropertiesOf(range)->getPropertyValue(lo::ToUno("Validation")) >>= rule;
-  return rule;
-}
-
-/// Allows texts of so many characters in the cells.
-inline void LimitTextLength(const Object& range, const char* length) {
-  const auto rule = ValidationOf(range);
-  rule->setPropertyValue(lo::ToUno("Type"), css::uno::Any(css::sheet::ValidationType_TEXT_LEN));
-  const auto condition = lo::As<css::sheet::XSheetCondition>(rule);
-  condition->setOperator(css::sheet::ConditionOperator_LESS_EQUAL);
-  condition->setFormula1(lo::ToUno(length));
-  PropertiesOf(range)->setPropertyValue(lo::ToUno("Validation"), css::uno::Any(rule));
-}
-
-/// The greatest length of a text that the cells allow; empty when there is no such rule.
-inline std::string TextLengthLimitOf(const Object& range) {
-  const auto rule = ValidationOf(range);
-  auto type = css::sheet::ValidationType_ANY;
-  rule->getPropertyValue(lo::ToUno("Type")) >>= type;
-  if (type != css::sheet::ValidationType_TEXT_LEN) return {};
-  return lo::ToUtf8(lo::As<css::sheet::XSheetCondition>(rule)->getFormula1());
 }
 
 }  // namespace rangewerks::tests

@@ -5,6 +5,7 @@
 
 #include "hosts/late_calls.h"
 #include "hosts/libreoffice/office.h"
+#include "platform/excel_format.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -32,7 +33,7 @@ class LibreOfficeInGerman : public testing::Test {
   const std::string given_ = Given();
 };
 
-TEST_F(LibreOfficeInGerman, TheFactsAndTheReadingOfTextsAreThoseOfTheLocale) {
+TEST_F(LibreOfficeInGerman, TheFactsAndTheReadingOfTextsAndFormulasAreThoseOfTheLocale) {
   Office office;
   const Object application = office.Application();
   EXPECT_EQ(GetText(application, "International", {3}), ",");
@@ -53,6 +54,18 @@ TEST_F(LibreOfficeInGerman, TheFactsAndTheReadingOfTextsAreThoseOfTheLocale) {
   Let(formula, "Formula", "=SUM(1.5,2)");
   EXPECT_EQ(GetText(formula, "Formula"), "=SUM(1.5,2)");
   EXPECT_EQ(Get(formula, "Value"), Variant(3.5));
+
+  const excel::Range cells(GetObject(sheet, "Range", {"C2:C9"}));
+  const excel::FormatConditions conditions = cells.get_FormatConditions();
+  conditions.Add(excel::xlExpression, "=MOD(ROW(); 2)=0");
+  conditions.Add(excel::xlExpression, "=C2>1,5");
+  EXPECT_EQ(GetText(cells.get_FormatConditions(1), "Formula1"), "=MOD(ROW(); 2)=0");
+  EXPECT_EQ(GetText(cells.get_FormatConditions(2), "Formula1"), "=C2>1,5");
+  EXPECT_EQ(ErrorNumberOf([&] { conditions.Add(excel::xlExpression, "=MOD(ROW(), 2)=0"); }), 1004);
+  for (const char* format : {"0.00_ ;-0.00", "0;_ ;-0", "dd/mm/yyyy", "#,##0.00", "@"}) {
+    cells.let_NumberFormat(format);
+    EXPECT_EQ(GetText(cells, "NumberFormat"), format);
+  }
 }
 
 }  // namespace
