@@ -6,9 +6,9 @@
 namespace rangewerks::hosts::workbook {
 
 ConditionalFormatPointer ConditionalFormatList::Add(const std::string& formula) {
-  const auto format = std::make_shared<ConditionalFormat>();
+  auto format = std::make_shared<ConditionalFormat>();
   if (!formula.starts_with('=') || automation::IsBlank(formula.substr(1))) {
-    Refuse("A condition is a formula that begins with \"=\", not \"" + formula + "\"");
+    Refuse(R"(A condition is a formula that begins with "=", not ")" + formula + "\"");
   }
   format->formula = formula;
   formats_.push_back(format);

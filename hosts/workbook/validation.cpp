@@ -49,7 +49,7 @@ void Validation::Add(std::int32_t type, const Variant& alertStyle, const Variant
   if (Compares(type) && !isFormula &&
       !automation::IsNumeric(rule.formula, Shared()->international.CurrentLocale())) {
     Refuse("Formula1 of a validation of the type " + std::to_string(type) +
-           " is a number or begins with \"=\"; it can't be \"" + rule.formula + "\"");
+           R"( is a number or begins with "="; it can't be ")" + rule.formula + "\"");
   }
   AddRule(sheet_->validation, area_, rule);
 }
@@ -84,14 +84,13 @@ void Validation::LetIgnoreBlank(bool ignores) {
 
 template <std::size_t Text>
 Variant Validation::GetText() const {
-  return Rule().*std::get<Text>(kRuleTexts).text;
+  return Rule().*kRuleTexts.at(Text).text;
 }
 
 template <std::size_t Text>
 void Validation::LetText(const std::string& text) {
-  constexpr const RuleText& kText = std::get<Text>(kRuleTexts);
-  RequireLength(kText, text);
-  ChangeRule([&](ValidationRule& rule) { rule.*kText.text = text; });
+  RequireLength(kRuleTexts.at(Text), text);
+  ChangeRule([&](ValidationRule& rule) { rule.*kRuleTexts.at(Text).text = text; });
 }
 
 }  // namespace rangewerks::hosts::workbook
