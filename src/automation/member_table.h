@@ -256,15 +256,18 @@ struct Signature<R (C::*)(A...)> {
       return method(values...);
     }
   }
+  template <class Parameter, class Value>
+  static void WriteBack([[maybe_unused]] const Argument& argument,
+                        [[maybe_unused]] const Value& value) {
+    if constexpr (kWritesBack<Parameter>) argument.Assign(ToVariant(value));
+  }
   template <class Class, class M, std::size_t... I>
   static Variant CallWith(Class& self, M method,
                           [[maybe_unused]] std::span<const Argument* const> arguments,
                           std::index_sequence<I...> /*indexes*/) {
     std::tuple<std::remove_cvref_t<A>...> values{
         VariantCast<std::remove_cvref_t<A>>::From(arguments[I]->Value())...};
-    const auto writeBack = [&] {
-      ((kWritesBack<A> ? arguments[I]->Assign(ToVariant(std::get<I>(values))) : void()), ...);
-    };
+    const auto writeBack = [&] { (WriteBack<A>(*arguments[I], std::get<I>(values)), ...); };
     try {
       if constexpr (std::is_void_v<R>) {
         Apply(self, method, std::get<I>(values)...);

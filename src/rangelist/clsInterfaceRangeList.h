@@ -34,6 +34,8 @@
 
 namespace rangewerks {
 
+class clsRangeProperties;
+
 class clsInterfaceRangeList final : public automation::AutomationClass {
  public:
   using Date = automation::Date;
@@ -235,6 +237,24 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   /// ExcelFunctions::ValidateRanges of this list.
   bool ValidateRanges();
 
+  // --- placing on a sheet, in sheetbuild
+  // -----------------------------------------------------------
+
+  /// Makes the selected cells the declared range `oRngProps->RangeName`: sizes them, names them,
+  /// gives them number format, validation, input message, heading and colours as the properties
+  /// ask, and returns the range's record, which from then on exists. `rngSelected` becomes the
+  /// cells that were placed. A validation or an input message that can't be added raises an event
+  /// and is left out. Raises 0x80040000 for a selection of several columns, or of several rows for
+  /// a header; what is done by then stays done.
+  Record AddRangeToSpreadsheet(excel::Range& rngSelected,
+                               const std::shared_ptr<clsRangeProperties>& oRngProps);
+  /// Declares the scratch definition of the properties and places it on their RangeArea. Always
+  /// returns null. The range stays declared when it can't be placed.
+  Record AddDetailRangeToSpreadsheet(const std::shared_ptr<clsRangeProperties>& oRngProps);
+  /// Does nothing; older callers still call it.
+  void AddRangeNotOnListToSpreadsheet(const excel::Range& /*rngSelected*/,
+                                      const std::shared_ptr<clsRangeProperties>& /*oRngProps*/) {}
+
   // --- user mapping ------------------------------------------------------------------------------
 
   /// Declares "windows_users" and "sage_users".
@@ -283,6 +303,20 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   void CheckMemberSize(const clsExInputRange& member, const std::string& master,
                        std::int32_t masterSize) const;
 
+  static std::int32_t SizeSelection(excel::Range& rngSelected, const clsExInputRange& definition,
+                                    const clsRangeProperties& properties);
+  void ApplyNumberFormat(const excel::Range& area, const clsExInputRange& definition) const;
+  void AddValidationAndTooltip(const excel::Validation& validation,
+                               const clsExInputRange& definition, clsRangeProperties& properties);
+  void MakeRoomForTooltip(const excel::Validation& validation, clsRangeProperties& properties);
+  void SetTooltip(const excel::Validation& validation, const clsExInputRange& definition) const;
+  void TellTooltipError(std::int16_t stage) const;
+  std::string HintFor(const clsExInputRange& definition) const;
+  static void DecideHeading(const clsExInputRange& definition, std::int32_t rows,
+                            clsRangeProperties& properties);
+  void FinishFormat(const excel::Range& area, const clsExInputRange& definition,
+                    clsRangeProperties& properties) const;
+
   bool ValidateUserRanges(bool bMissingIsAllowed);
   std::string MappedSageUser(const excel::Range& sageUsers) const;
 
@@ -313,3 +347,15 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
 };
 
 }  // namespace rangewerks
+
+namespace rangewerks::automation {
+
+/// The order form of a placing is known by name only here; sheetbuild, which has the class, defines
+/// this.
+template <>
+struct VariantCast<std::shared_ptr<clsRangeProperties>> {
+  static constexpr TypeCode kType = TypeCode::Object;
+  static std::shared_ptr<clsRangeProperties> From(const Variant& value);
+};
+
+}  // namespace rangewerks::automation

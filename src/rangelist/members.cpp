@@ -98,6 +98,12 @@ const automation::MemberTable& clsInterfaceRangeList::Members() const {
                   "The name of the user logged on.")
           .Method(38, "CorrectRangeNames", &C::CorrectRangeNames, {},
                   "Gives each workbook name the part of its own sheet.")
+          .Method(39, "AddRangeNotOnListToSpreadsheet", &C::AddRangeNotOnListToSpreadsheet,
+                  {{"rngSelected"}, {"oRngProps"}}, "Does nothing; kept for older callers.")
+          .Method(40, "AddDetailRangeToSpreadsheet", &C::AddDetailRangeToSpreadsheet,
+                  {{"oRngProps"}}, "Declares a range and places it; returns nothing.")
+          .Method(41, "AddRangeToSpreadsheet", &C::AddRangeToSpreadsheet,
+                  {{"rngSelected"}, {"oRngProps"}}, "Makes selected cells a declared range.")
           .Method(42, "CellOffsetInRange", &C::CellOffsetInRange, {{"Rng"}, {"sRngName"}},
                   "The line of a cell in a range, or -1.")
           .Method(43, "ClearAllRanges", &C::ClearAllRanges,

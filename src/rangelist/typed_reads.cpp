@@ -189,23 +189,17 @@ clsInterfaceRangeList::Date clsInterfaceRangeList::DateFromText(const std::strin
 }
 
 std::string clsInterfaceRangeList::DateFormatForLocale() const {
-  return Procedure("DateFormatForLocale of Class Module clsInterfaceRangeList Line#:",
-                   [&](Line& at) -> std::string {
-                     at();
-                     const Variant order =
-                         actSheet_.get_Application().get_International(excel::xlDateOrder);
-                     at();
-                     switch (automation::ToLong(order, Locale::Current())) {
-                       case 0:
-                         return "mm/dd/yyyy";
-                       case 1:
-                         return "dd/mm/yyyy";
-                       case 2:
-                         return "yyyy/mm/dd";
-                       default:
-                         return {};
-                     }
-                   });
+  const Variant order = actSheet_.get_Application().get_International(excel::xlDateOrder);
+  switch (automation::ToLong(order, Locale::Current())) {
+    case 0:
+      return "mm/dd/yyyy";
+    case 1:
+      return "dd/mm/yyyy";
+    case 2:
+      return "yyyy/mm/dd";
+    default:
+      return {};
+  }
 }
 
 std::int32_t clsInterfaceRangeList::get_InvalidRow() const {

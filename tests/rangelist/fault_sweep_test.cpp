@@ -67,7 +67,7 @@ Rules ReadingADate(const Chain& outer) {
   const std::string words = "Invalid date in range day";
   return {At({"Worksheet.Application", "Application.International"},
              Replaced(errRwkInvalidRangeValue, words,
-                      Levels({"DateFormatForLocale", "GetDateRange"}) + outer))};
+                      Levels({"GetDateRange"}) + outer))};
 }
 
 /// Not to find a range is an answer; to lose the row of one that was found isn't.
