@@ -94,7 +94,8 @@ void Write(T* place, const Variant& value) {
   } else if constexpr (std::is_same_v<T, IUnknown*>) {
     *place = ToUnknown(value.AsObject()).Detach();
   } else if constexpr (std::is_pointer_v<T>) {
-    *place = static_cast<T>(ToDispatch(value.AsObject()).Detach());
+    const T old = std::exchange(*place, static_cast<T>(ToDispatch(value.AsObject()).Detach()));
+    if (old != nullptr) old->Release();
   } else {
     *place = static_cast<T>(*value.TryGet<std::int32_t>());
   }

@@ -9,6 +9,9 @@
 #include "model/colExInputRangeList.h"
 #include "rangelist/ExcelFunctions.h"
 #include "rangelist/clsInterfaceRangeList.h"
+#include "sheetbuild/clsColumnStyle.h"
+#include "sheetbuild/clsRangeProperties.h"
+#include "sheetbuild/clsSaveSettings.h"
 #include "systems/windows/windows_system.h"
 
 namespace rangewerks::com {
@@ -25,7 +28,8 @@ void Prepare() {
   automation::Locale::SetCurrent(TheSystem()->CurrentLocale());
   const Pointer<ITypeLib> library = ModuleTypeLibrary();
   for (auto interfaceOf : {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface,
-                           GroupHeadingsInterface, RangeListInterface, ExcelFunctionsInterface}) {
+                           GroupHeadingsInterface, RangeListInterface, ExcelFunctionsInterface,
+                           RangePropertiesInterface, ColumnStyleInterface, SaveSettingsInterface}) {
     Publish(interfaceOf(), *library.Get());
   }
 }
@@ -45,6 +49,21 @@ const Server& TheServer() {
               {__uuidof(::colExInputRangeList), L"Rangewerks.colExInputRangeList",
                L"Rangewerks list of declared ranges",
                [] { return Object(std::make_shared<colExInputRangeList>()); }},
+              {__uuidof(::clsRangeProperties), L"Rangewerks.clsRangeProperties",
+               L"Rangewerks range properties",
+               [] {
+                 return Object(std::make_shared<clsRangeProperties>(TheSystem()->OpenRegistry()));
+               }},
+              {__uuidof(::clsColumnStyle), L"Rangewerks.clsColumnStyle",
+               L"Rangewerks stored colours",
+               [] {
+                 return Object(std::make_shared<clsColumnStyle>(TheSystem()->OpenRegistry()));
+               }},
+              {__uuidof(::clsSaveSettings), L"Rangewerks.clsSaveSettings",
+               L"Rangewerks stored options",
+               [] {
+                 return Object(std::make_shared<clsSaveSettings>(TheSystem()->OpenRegistry()));
+               }},
               {__uuidof(::ExcelFunctions), L"Rangewerks.ExcelFunctions",
                L"Rangewerks routines for sheets",
                [] { return Object(std::make_shared<ExcelFunctions>(TheSystem())); }},

@@ -12,5 +12,8 @@ DualInterface GroupHeadingInterface();
 DualInterface GroupHeadingsInterface();
 DualInterface RangeListInterface();
 DualInterface ExcelFunctionsInterface();
+DualInterface RangePropertiesInterface();
+DualInterface ColumnStyleInterface();
+DualInterface SaveSettingsInterface();
 
 }  // namespace rangewerks::com

@@ -19,16 +19,18 @@ DualInterface RangeListInterface() {
       &I::ClearList, &I::SetIfRangesExist, &I::AddUserRangesToList, &I::GetRange, &I::GetValRange,
       &I::GetIntRange, &I::GetStrRangeBlk, &I::GetStrRange, &I::GetDateRange, &I::PopulateRange,
       &I::PopulateRangeRs, &I::ClearRange, &I::ChangeSESConnection, &I::RangeExists,
-      &I::GetSageUserName, &I::GetWindowsUserName, &I::CorrectRangeNames, &I::CellOffsetInRange,
-      &I::ClearAllRanges, &I::ClearDetailRanges, &I::IsFormula, &I::Add, &I::AddCls, &I::get_Item,
-      &I::get_Count, &I::Remove, &I::get_NewEnum, &I::get_ValidateDecimalPlaces,
-      &I::put_ValidateDecimalPlaces, &I::PopulateDateRange, &I::CheckRangeSize, &I::CheckGroupSizes,
-      &I::get_UseNewBrowseShortcutName, &I::put_UseNewBrowseShortcutName, &I::PopulateDoubleRange,
-      &I::get_LeaveFormulaOnPopulate, &I::put_LeaveFormulaOnPopulate, &I::get_LeaveBlankOnPopulate,
-      &I::put_LeaveBlankOnPopulate, &I::GetValues, &I::get_RangePrefix, &I::put_RangePrefix,
-      &I::GetYNRange, &I::PopulateYNRange, &I::PutValues, &I::get_DefaultTag, &I::put_DefaultTag,
-      &I::ClearRangesForTag, &I::RenameNamesForNewSheet, &I::get_DoNotCheckIsFormula,
-      &I::put_DoNotCheckIsFormula>("clsInterfaceRangeList");
+      &I::GetSageUserName, &I::GetWindowsUserName, &I::CorrectRangeNames,
+      &I::AddRangeNotOnListToSpreadsheet, &I::AddDetailRangeToSpreadsheet,
+      &I::AddRangeToSpreadsheet, &I::CellOffsetInRange, &I::ClearAllRanges, &I::ClearDetailRanges,
+      &I::IsFormula, &I::Add, &I::AddCls, &I::get_Item, &I::get_Count, &I::Remove, &I::get_NewEnum,
+      &I::get_ValidateDecimalPlaces, &I::put_ValidateDecimalPlaces, &I::PopulateDateRange,
+      &I::CheckRangeSize, &I::CheckGroupSizes, &I::get_UseNewBrowseShortcutName,
+      &I::put_UseNewBrowseShortcutName, &I::PopulateDoubleRange, &I::get_LeaveFormulaOnPopulate,
+      &I::put_LeaveFormulaOnPopulate, &I::get_LeaveBlankOnPopulate, &I::put_LeaveBlankOnPopulate,
+      &I::GetValues, &I::get_RangePrefix, &I::put_RangePrefix, &I::GetYNRange, &I::PopulateYNRange,
+      &I::PutValues, &I::get_DefaultTag, &I::put_DefaultTag, &I::ClearRangesForTag,
+      &I::RenameNamesForNewSheet, &I::get_DoNotCheckIsFormula, &I::put_DoNotCheckIsFormula>(
+      "clsInterfaceRangeList");
 }
 
 DualInterface ExcelFunctionsInterface() {

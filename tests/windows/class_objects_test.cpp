@@ -33,8 +33,10 @@ class ClassObject : public testing::Test {
 };
 
 TEST_F(ClassObject, IsThereForEachCreatableClass) {
-  for (const GUID& id : {__uuidof(::clsInterfaceRangeList), __uuidof(::clsExInputRange),
-                         __uuidof(::colExInputRangeList), __uuidof(::ExcelFunctions)}) {
+  for (const GUID& id :
+       {__uuidof(::clsInterfaceRangeList), __uuidof(::clsExInputRange),
+        __uuidof(::colExInputRangeList), __uuidof(::clsRangeProperties), __uuidof(::clsColumnStyle),
+        __uuidof(::clsSaveSettings), __uuidof(::ExcelFunctions)}) {
     Pointer<IClassFactory> factory;
     ASSERT_EQ(GetClassObject(id, IID_IClassFactory, factory.ReceiveAny()), S_OK);
     Pointer<IDispatch> object;

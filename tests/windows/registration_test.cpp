@@ -51,6 +51,12 @@ constexpr std::array kClasses = {
                    "Rangewerks declared range"},
     PublishedClass{"{5FE272D8-97E5-4632-AE63-DBFC05972E54}", "Rangewerks.colExInputRangeList",
                    "Rangewerks list of declared ranges"},
+    PublishedClass{"{42CD4EDC-D06C-43CD-A93F-17A134F30A50}", "Rangewerks.clsRangeProperties",
+                   "Rangewerks range properties"},
+    PublishedClass{"{8724327A-FF1A-4459-8D32-B8379209BB5F}", "Rangewerks.clsColumnStyle",
+                   "Rangewerks stored colours"},
+    PublishedClass{"{D7D4614C-341A-4305-A140-7E27209B1EC8}", "Rangewerks.clsSaveSettings",
+                   "Rangewerks stored options"},
     PublishedClass{"{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}", "Rangewerks.ExcelFunctions",
                    "Rangewerks routines for sheets"},
 };
@@ -65,6 +71,9 @@ constexpr std::array kDualInterfaces = {
     PublishedInterface{"{AC6027B4-1BFC-42CF-817A-08ABFCCEAE1A}", "_clsExInputRange"},
     PublishedInterface{"{EFA4B2D9-C96D-444A-9CA7-3554E5030AC1}", "_colExInputRangeList"},
     PublishedInterface{"{96AC32DF-DC59-4172-A116-306F51B69B53}", "_clsInterfaceRangeList"},
+    PublishedInterface{"{C64040F8-FCD8-4D58-AEA1-B68A0B025D7D}", "_clsRangeProperties"},
+    PublishedInterface{"{6FBAAE43-2DC4-4F27-BE34-B7889C69699A}", "_clsColumnStyle"},
+    PublishedInterface{"{3A4DB0AA-7EBB-4E13-A369-6DF49B9FB418}", "_clsSaveSettings"},
     PublishedInterface{"{6A523BB4-D3E4-46FE-905B-2DBCFF546108}", "_ExcelFunctions"},
 };
 constexpr const char* kEventsProxy = "{00020420-0000-0000-C000-000000000046}";

@@ -14,6 +14,9 @@
 #include "rangelist/RangewerksErrors.h"
 #include "rangelist/clsInterfaceRangeList.h"
 #include "rangelist/elgErrors.h"
+#include "sheetbuild/clsColumnStyle.h"
+#include "sheetbuild/clsRangeProperties.h"
+#include "sheetbuild/clsSaveSettings.h"
 #include "windows/server_under_test.h"
 #include "windows/type_texts.h"
 
@@ -40,6 +43,9 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(colExInputRangeList());
   ExpectDescribed(colGroupHeadings());
   ExpectDescribed(clsRangeGroupHeading());
+  ExpectDescribed(clsRangeProperties(nullptr));
+  ExpectDescribed(clsColumnStyle(nullptr));
+  ExpectDescribed(clsSaveSettings(nullptr));
   ExpectDescribed(ExcelFunctions(nullptr));
 }
 
@@ -61,6 +67,11 @@ TEST(TypeLibrary, NamesTheTypesOfItsOwnInArgumentsAndResults) {
       OwnTypesIn(*TypeNamed("_clsInterfaceRangeList").Get()),
       ElementsAre("InvalidRangeType: eRangeHeadDetailInd*", "GroupHeadings: _colGroupHeadings**",
                   "InAnyRange: _clsExInputRange**", "AddInterface(eDataType): eRangeDataType",
+                  "AddRangeNotOnListToSpreadsheet(oRngProps): _clsRangeProperties*",
+                  "AddDetailRangeToSpreadsheet(oRngProps): _clsRangeProperties*",
+                  "AddDetailRangeToSpreadsheet: _clsExInputRange**",
+                  "AddRangeToSpreadsheet(oRngProps): _clsRangeProperties*",
+                  "AddRangeToSpreadsheet: _clsExInputRange**",
                   "Add(DetailIndicator): eRangeHeadDetailInd", "Add(RangeDataType): eRangeDataType",
                   "Add: _clsExInputRange**", "AddCls(oExRngInput): _clsExInputRange*",
                   "AddCls: _clsExInputRange**", "Item: _clsExInputRange**",
@@ -78,6 +89,8 @@ TEST(TypeLibrary, NamesTheTypesOfItsOwnInArgumentsAndResults) {
   EXPECT_THAT(OwnTypesIn(*TypeNamed("_colGroupHeadings").Get()),
               ElementsAre("Add: _clsRangeGroupHeading**", "Item: _clsRangeGroupHeading**"));
   EXPECT_THAT(OwnTypesIn(*TypeNamed("_clsRangeGroupHeading").Get()), IsEmpty());
+  EXPECT_THAT(OwnTypesIn(*TypeNamed("_clsRangeProperties").Get()),
+              ElementsAre("ExcelRange: _clsExInputRange**"));
   EXPECT_THAT(OwnTypesIn(*TypeNamed("_ExcelFunctions").Get()),
               ElementsAre("ValidateRanges(irList): _clsInterfaceRangeList*"));
 }
@@ -121,12 +134,16 @@ TEST(TypeLibrary, TellsWhichClassesAClientCanCreateAndWhichAreGlobal) {
                           "colExInputRangeList: creatable default _colExInputRangeList",
                           "clsInterfaceRangeList: creatable default _clsInterfaceRangeList "
                           "default source __clsInterfaceRangeList",
+                          "clsRangeProperties: creatable default _clsRangeProperties",
+                          "clsColumnStyle: creatable default _clsColumnStyle",
+                          "clsSaveSettings: creatable default _clsSaveSettings",
                           "ExcelFunctions: global creatable default _ExcelFunctions"));
 }
 
 TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
   for (const char* name : {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange",
-                           "_colExInputRangeList", "_clsInterfaceRangeList", "_ExcelFunctions"}) {
+                           "_colExInputRangeList", "_clsInterfaceRangeList", "_clsRangeProperties",
+                           "_clsColumnStyle", "_clsSaveSettings", "_ExcelFunctions"}) {
     const auto view = TableViewOf(*TypeNamed(name).Get());
     TypeAttributes attributes(*view.Get());
     view->GetTypeAttr(attributes.Receive());
@@ -244,6 +261,9 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("_colGroupHeadings", "{74BDB599-98B2-432D-9DFF-CC7C40299DBB}"),
                           Pair("_clsExInputRange", "{AC6027B4-1BFC-42CF-817A-08ABFCCEAE1A}"),
                           Pair("_colExInputRangeList", "{EFA4B2D9-C96D-444A-9CA7-3554E5030AC1}"),
+                          Pair("_clsRangeProperties", "{C64040F8-FCD8-4D58-AEA1-B68A0B025D7D}"),
+                          Pair("_clsColumnStyle", "{6FBAAE43-2DC4-4F27-BE34-B7889C69699A}"),
+                          Pair("_clsSaveSettings", "{3A4DB0AA-7EBB-4E13-A369-6DF49B9FB418}"),
                           Pair("_clsInterfaceRangeList", "{96AC32DF-DC59-4172-A116-306F51B69B53}"),
                           Pair("_ExcelFunctions", "{6A523BB4-D3E4-46FE-905B-2DBCFF546108}"),
                           Pair("__clsInterfaceRangeList", "{823CBCD1-3B30-4061-8544-84BB2F5E23F9}"),
@@ -252,6 +272,9 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("clsExInputRange", "{FCEE5D41-C542-4C4D-93A6-8BD7E2627E81}"),
                           Pair("colExInputRangeList", "{5FE272D8-97E5-4632-AE63-DBFC05972E54}"),
                           Pair("clsInterfaceRangeList", "{EB72F789-34AC-4A6A-BDC6-C39A141A58E8}"),
+                          Pair("clsRangeProperties", "{42CD4EDC-D06C-43CD-A93F-17A134F30A50}"),
+                          Pair("clsColumnStyle", "{8724327A-FF1A-4459-8D32-B8379209BB5F}"),
+                          Pair("clsSaveSettings", "{D7D4614C-341A-4305-A140-7E27209B1EC8}"),
                           Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}")));
 }
 
