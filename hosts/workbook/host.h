@@ -50,9 +50,8 @@ class Host {
   ///   refused.
   /// - Formulas aren't checked or calculated: they show what SetShownValue gave, and are empty
   ///   until then. Nothing adjusts the references in their text.
-  /// - Formats, lines, validation rules and conditional formats are kept and told; nothing is
-  /// drawn,
-  ///   and neither rules nor conditions are carried out. AutoFit counts characters.
+  /// - Formats, lines, validation rules and conditional formats are kept and told; nothing comes of
+  ///   them: entries aren't checked, nor conditions calculated. AutoFit counts characters.
   /// - Not there: multiple selections, protection, insertion and deletion of cells, and all of the
   ///   object model that isn't listed in docs/hosts.md; such members raise 438.
   Host();
