@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <com/sun/star/beans/PropertyValue.hpp>
+#include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/ConditionOperator.hpp>
@@ -25,6 +26,10 @@ using css::sheet::XSheetConditionalEntries;
 using Entries = Reference<XSheetConditionalEntries>;
 
 constexpr const char* kConditions = "ConditionalFormat";
+
+std::string Place(const CellBlock& cells) {
+  return QuotedSheetName(cells.sheet->Name()) + "!" + AddressOf(cells.area);
+}
 
 std::vector<Area> AreasOf(const Reference<XConditionalFormat>& format) {
   const auto ranges =
@@ -81,6 +86,17 @@ void Collect(std::vector<Condition>& conditions, Condition::Part part) {
   conditions.push_back({{std::move(part)}, kind});
 }
 
+/// Whether the formats are there yet, and are those of the same cells.
+bool IsStillSo(const Condition& condition) {
+  try {
+    return std::ranges::all_of(condition.parts, [](const Condition::Part& part) {
+      return part.format->getCount() > part.position && AreasOf(part.format) == part.areas;
+    });
+  } catch (const css::lang::IllegalArgumentException&) {  // a format that is gone
+    return false;
+  }
+}
+
 /// What was added last is last in every format that it is in, however short.
 std::int32_t LastPosition(const Condition& condition) {
   std::int32_t last = 0;
@@ -119,7 +135,7 @@ void Detach(const CellBlock& cells, const std::vector<Condition>& conditions) {
 /// there was only where each cell has one format already, made of plain conditions.
 void RequireRewritable(const CellBlock& cells, const std::vector<Condition>& conditions) {
   const auto refuse = [&] {
-    Fail(QuotedSheetName(cells.sheet->Name()) + "!" + AddressOf(cells.area) +
+    Fail(Place(cells) +
          " has conditional formats that LibreOffice can't change without losing some. Delete them "
          "first.");
   };
@@ -162,6 +178,25 @@ std::vector<Condition> ConditionsOf(const CellBlock& cells) {
                      return LastPosition(left) < LastPosition(right);
                    });
   return conditions;
+}
+
+const Condition& FoundCondition::Get() {
+  if (found_ && IsStillSo(*found_)) return *found_;
+  std::vector<Condition> all = ConditionsOf(cells_);
+  if (position_ < 1 || position_ > static_cast<std::int32_t>(all.size())) {
+    FailElement(Place(cells_) + " has no conditional format number " + std::to_string(position_) +
+                " among its " + std::to_string(all.size()));
+  }
+  found_ = std::move(all[static_cast<std::size_t>(position_) - 1]);
+  return *found_;
+}
+
+const Condition& FoundCondition::GetPlain() {
+  const Condition& condition = Get();
+  if (condition.kind != css::sheet::ConditionEntryType::CONDITION) {
+    Fail("This conditional format of " + Place(cells_) + " has no condition");
+  }
+  return condition;
 }
 
 std::int32_t AddCondition(const CellBlock& cells, const std::string& formula) {

@@ -29,6 +29,25 @@ struct Condition {
 /// otherwise every format of the sheet has to be looked at.
 std::vector<Condition> ConditionsOf(const CellBlock& cells);
 
+/// One condition of cells by its position among theirs, from 1. What was found is kept for as long
+/// as it is still so.
+class FoundCondition {
+ public:
+  FoundCondition(CellBlock cells, std::int32_t position)
+      : cells_(std::move(cells)), position_(position) {}
+
+  const CellBlock& Cells() const noexcept { return cells_; }
+  /// Raises 9 when there is none.
+  const Condition& Get();
+  /// The same, and raises 1004 for a conditional format of another kind: a scale of colours.
+  const Condition& GetPlain();
+
+ private:
+  CellBlock cells_;
+  std::int32_t position_;
+  std::optional<Condition> found_;
+};
+
 /// Adds one behind those that the cells have, with a formula in the office's notation as of the
 /// first cell, and returns its position among them, from 1. Raises 1004 when the cells have
 /// conditions that the office would drop then.

@@ -1,10 +1,8 @@
 #include "hosts/libreoffice/format_conditions.h"
 
-#include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/ConditionFormatOperator.hpp>
 
 #include "hosts/common/local_formula.h"
-#include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/cell_writing.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/interior.h"
@@ -13,41 +11,26 @@
 namespace rangewerks::hosts::libreoffice {
 namespace {
 
-namespace kinds = css::sheet::ConditionEntryType;
-
 constexpr std::int32_t kCellValue = 1;
 constexpr const char* kStyleName = "StyleName";
 
-/// The condition at a position from 1. Raises 9 when there is none.
-Condition ConditionAt(const CellBlock& cells, std::int32_t position) {
-  const std::vector<Condition> all = ConditionsOf(cells);
-  if (position < 1 || position > static_cast<std::int32_t>(all.size())) {
-    FailElement(QuotedSheetName(cells.sheet->Name()) + "!" + AddressOf(cells.area) +
-                " has no conditional format number " + std::to_string(position) + " among its " +
-                std::to_string(all.size()));
-  }
-  return all[static_cast<std::size_t>(position) - 1];
-}
-
-Condition PlainConditionAt(const CellBlock& cells, std::int32_t position) {
-  Condition condition = ConditionAt(cells, position);
-  if (condition.kind != kinds::CONDITION) Fail("This conditional format has no condition");
-  return condition;
+std::string StyleOf(const Condition& condition) {
+  return ToUtf8(Property<OUString>(condition.parts.front().Entry(), kStyleName));
 }
 
 class ConditionInterior final : public Interior {
  public:
-  ConditionInterior(SessionPointer session, CellBlock cells, std::int32_t position)
-      : Interior(std::move(session), std::move(cells)), position_(position) {}
+  ConditionInterior(SessionPointer session, const FoundCondition& condition)
+      : Interior(std::move(session), condition.Cells()), condition_(condition) {}
 
  protected:
-  std::optional<std::int32_t> ReadFill() const override {
-    return Cells().book->Styles().FillOf(StyleOf(PlainConditionAt(Cells(), position_)));
+  std::optional<std::int32_t> ReadFill() override {
+    return Cells().book->Styles().FillOf(StyleOf(condition_.GetPlain()));
   }
 
   void PutFill(std::int32_t fill) override {
     RequireWritable(OnSheet(), InArea());
-    const Condition condition = PlainConditionAt(Cells(), position_);
+    const Condition& condition = condition_.GetPlain();
     const Any style(ToUno(Cells().book->Styles().WithFill(StyleOf(condition), fill)));
     for (const Condition::Part& part : condition.parts) {
       part.Entry()->setPropertyValue(ToUno(kStyleName), style);
@@ -55,11 +38,7 @@ class ConditionInterior final : public Interior {
   }
 
  private:
-  static std::string StyleOf(const Condition& condition) {
-    return ToUtf8(Property<OUString>(condition.parts.front().Entry(), kStyleName));
-  }
-
-  std::int32_t position_;
+  FoundCondition condition_;
 };
 
 }  // namespace
@@ -76,9 +55,9 @@ const MemberTable& FormatConditions::Members() const {
 }
 
 Variant FormatConditions::GetItem(const Variant& index) const {
-  const std::int32_t position = LongArgument(index);
-  ConditionAt(Cells(), position);
-  return std::make_shared<FormatCondition>(Office(), Cells(), position);
+  FoundCondition condition(Cells(), LongArgument(index));
+  condition.Get();  // fails when there is none
+  return std::make_shared<FormatCondition>(Office(), condition);
 }
 
 Variant FormatConditions::GetCount() const {
@@ -100,7 +79,7 @@ Variant FormatConditions::Add(const Variant& type, const Variant& /*comparison*/
   const Tokens tokens = formulas.Read(english->substr(1), first);
   RequireUnderstood(tokens, local);
   const std::int32_t position = AddCondition(Cells(), formulas.WriteNative(tokens, first));
-  return std::make_shared<FormatCondition>(Office(), Cells(), position);
+  return std::make_shared<FormatCondition>(Office(), FoundCondition(Cells(), position));
 }
 
 void FormatConditions::Delete() {
@@ -118,27 +97,27 @@ const MemberTable& FormatCondition::Members() const {
   return table;
 }
 
-Variant FormatCondition::GetType() const {
-  const Condition condition = PlainConditionAt(Cells(), position_);
+Variant FormatCondition::GetType() {
+  const Condition& condition = condition_.GetPlain();
   const auto comparison = Property<std::int32_t>(condition.parts.front().Entry(), "Operator");
   return comparison == css::sheet::ConditionFormatOperator::EXPRESSION
              ? static_cast<std::int32_t>(excel::xlExpression)
              : kCellValue;
 }
 
-Variant FormatCondition::GetFormula1() const {
+Variant FormatCondition::GetFormula1() {
   // The office writes it for the user, with the separators of the locale.
-  const Condition condition = PlainConditionAt(Cells(), position_);
+  const Condition& condition = condition_.GetPlain();
   return "=" + ToUtf8(Property<OUString>(condition.parts.front().Entry(), "Formula1"));
 }
 
-Variant FormatCondition::GetInterior() const {
-  return std::make_shared<ConditionInterior>(Office(), Cells(), position_);
+Variant FormatCondition::GetInterior() {
+  return std::make_shared<ConditionInterior>(Office(), condition_);
 }
 
 void FormatCondition::Delete() {
   RequireWritable(OnSheet(), InArea());
-  RemoveCondition(Cells(), ConditionAt(Cells(), position_));
+  RemoveCondition(Cells(), condition_.Get());
 }
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -18,20 +18,19 @@ class FormatConditions final : public CellsPart {
   void Delete();
 };
 
-/// A condition is known by its position, as the office makes new objects with every change.
 class FormatCondition final : public CellsPart {
  public:
-  FormatCondition(SessionPointer session, CellBlock cells, std::int32_t position)
-      : CellsPart(std::move(session), std::move(cells)), position_(position) {}
+  FormatCondition(SessionPointer session, const FoundCondition& condition)
+      : CellsPart(std::move(session), condition.Cells()), condition_(condition) {}
   const MemberTable& Members() const override;
 
  private:
-  Variant GetType() const;
-  Variant GetFormula1() const;
-  Variant GetInterior() const;
+  Variant GetType();
+  Variant GetFormula1();
+  Variant GetInterior();
   void Delete();
 
-  std::int32_t position_;
+  FoundCondition condition_;
 };
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -30,7 +30,7 @@ const MemberTable& Interior::Members() const {
   return table;
 }
 
-Variant Interior::GetColor() const {
+Variant Interior::GetColor() {
   const auto fill = ReadFill();
   if (!fill) return automation::Null();
   return *fill == kNoFill ? kWhite : Swapped(*fill);
@@ -45,7 +45,7 @@ void Interior::LetColor(const Variant& color) {
   PutFill(Swapped(given));
 }
 
-Variant Interior::GetColorIndex() const {
+Variant Interior::GetColorIndex() {
   const auto fill = ReadFill();
   if (!fill) return automation::Null();
   if (*fill == kNoFill) return static_cast<std::int32_t>(excel::xlColorIndexNone);
@@ -61,7 +61,7 @@ void Interior::LetColorIndex(const Variant& index) {
   PutFill(Swapped(*color));
 }
 
-std::optional<std::int32_t> CellsInterior::ReadFill() const {
+std::optional<std::int32_t> CellsInterior::ReadFill() {
   return CommonProperty<std::int32_t>(OnSheet(), InArea(), kCellBackColor);
 }
 

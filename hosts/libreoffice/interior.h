@@ -15,13 +15,13 @@ class Interior : public CellsPart {
  protected:
   using CellsPart::CellsPart;
   /// The fill as the office has it; none when the cells differ.
-  virtual std::optional<std::int32_t> ReadFill() const = 0;
+  virtual std::optional<std::int32_t> ReadFill() = 0;
   virtual void PutFill(std::int32_t fill) = 0;
 
  private:
-  Variant GetColor() const;
+  Variant GetColor();
   void LetColor(const Variant& color);
-  Variant GetColorIndex() const;
+  Variant GetColorIndex();
   void LetColorIndex(const Variant& index);
 };
 
@@ -31,7 +31,7 @@ class CellsInterior final : public Interior {
       : Interior(std::move(session), std::move(cells)) {}
 
  protected:
-  std::optional<std::int32_t> ReadFill() const override;
+  std::optional<std::int32_t> ReadFill() override;
   void PutFill(std::int32_t fill) override;
 };
 

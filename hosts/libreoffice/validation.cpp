@@ -210,7 +210,10 @@ void Validation::Delete() {
 }
 
 Validation::Rule Validation::Required() const {
-  const CellProperties cells = PropertiesOf(OnSheet(), InArea());
+  return RequiredOf(PropertiesOf(OnSheet(), InArea()));
+}
+
+Validation::Rule Validation::RequiredOf(const CellProperties& cells) const {
   switch (StateOf(cells, kRule)) {
     case css::beans::PropertyState_DEFAULT_VALUE:
       Fail(Place() + " has no validation");
@@ -233,9 +236,10 @@ std::string Validation::Place() const {
 
 void Validation::PutProperty(const char* property, const Any& value) {
   RequireWritable(OnSheet(), InArea());
-  const Rule rule = Required();
+  const CellProperties cells = PropertiesOf(OnSheet(), InArea());
+  const Rule rule = RequiredOf(cells);
   rule->setPropertyValue(ToUno(property), value);
-  PropertiesOf(OnSheet(), InArea())->setPropertyValue(ToUno(kRule), Any(rule));
+  cells->setPropertyValue(ToUno(kRule), Any(rule));
 }
 
 template <std::size_t Text>

@@ -36,6 +36,7 @@ class Validation final : public CellsPart {
   using Rule = Reference<css::beans::XPropertySet>;
   /// Raises 1004 when the cells have no rule, or not the same.
   Rule Required() const;
+  Rule RequiredOf(const CellProperties& cells) const;
   void PutProperty(const char* property, const Any& value);
   void PutCondition(const Rule& rule, std::int32_t type, const Variant& comparison,
                     const Variant& formula1) const;

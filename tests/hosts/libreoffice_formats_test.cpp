@@ -320,6 +320,21 @@ TEST_F(LibreOfficeFormatting, AWorkbookOpenedForReadingCantBeFormatted) {
   SharedOffice().Close(opened);
 }
 
+TEST_F(LibreOfficeFormatting, AConditionThatIsHeldStaysTheOneOfItsCells) {
+  Cells(sheet_, "B2:B20").get_FormatConditions().Add(excel::xlExpression, "=ROW()=3");
+  const excel::Range part = Cells(sheet_, "B2:B9");
+  const excel::FormatCondition held = part.get_FormatConditions(1);
+  const excel::Interior fill = held.get_Interior();
+  part.get_FormatConditions().Add(excel::xlExpression, "=ROW()=4");
+  fill.let_Color(0x0000FF);
+  EXPECT_EQ(GetText(held, "Formula1"), "=ROW()=3");
+  EXPECT_EQ(Part(part.get_FormatConditions(1), "Interior", "Color"), Variant(0x0000FF));
+  EXPECT_EQ(Part(Cells(sheet_, "B10").get_FormatConditions(1), "Interior", "Color"),
+            Variant(0xFFFFFF));
+  part.get_FormatConditions().Delete();
+  EXPECT_EQ(ErrorOf([&] { fill.let_Color(0x0000FF); }).Number(), 9);
+}
+
 // --- conditional formats of other programs -------------------------------------------------------
 
 /// Two formats that overlap in B5:B9, as a file can have them.
