@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <com/sun/star/beans/PropertyValue.hpp>
-#include <com/sun/star/lang/IllegalArgumentException.hpp>
 #include <com/sun/star/lang/XMultiServiceFactory.hpp>
 #include <com/sun/star/sheet/ConditionEntryType.hpp>
 #include <com/sun/star/sheet/ConditionOperator.hpp>
@@ -92,7 +91,9 @@ bool IsStillSo(const Condition& condition) {
     return std::ranges::all_of(condition.parts, [](const Condition::Part& part) {
       return part.format->getCount() > part.position && AreasOf(part.format) == part.areas;
     });
-  } catch (const css::lang::IllegalArgumentException&) {  // a format that is gone
+  } catch (const css::lang::DisposedException&) {
+    throw;
+  } catch (const css::uno::Exception&) {  // a format that is gone
     return false;
   }
 }

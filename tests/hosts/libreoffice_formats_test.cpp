@@ -332,7 +332,8 @@ TEST_F(LibreOfficeFormatting, AConditionThatIsHeldStaysTheOneOfItsCells) {
   EXPECT_EQ(Part(Cells(sheet_, "B10").get_FormatConditions(1), "Interior", "Color"),
             Variant(0xFFFFFF));
   part.get_FormatConditions().Delete();
-  EXPECT_EQ(ErrorOf([&] { fill.let_Color(0x0000FF); }).Number(), 9);
+  const automation::Error gone = ErrorOf([&] { fill.let_Color(0x0000FF); });
+  EXPECT_EQ(gone.Number(), 9) << gone.Description();
 }
 
 // --- conditional formats of other programs -------------------------------------------------------
