@@ -28,9 +28,15 @@ class EventArguments {
       VARIANT& value = values_[arguments.size() - 1 - i];
       value = contents_[i];
       if (!arguments[i].IsReference()) continue;
-      VariantInit(&value);
-      V_VT(&value) = VT_BYREF | VT_VARIANT;
-      V_VARIANTREF(&value) = &contents_[i];
+      // The argument of a handler has a type, and a reference to that type is what it takes.
+      VARTYPE type = V_VT(&contents_[i]);
+      void* place = &V_BYREF(&contents_[i]);
+      if (type == VT_EMPTY || type == VT_NULL) {
+        type = VT_VARIANT;
+        place = &contents_[i];
+      }
+      V_VT(&value) = static_cast<VARTYPE>(VT_BYREF | type);
+      V_BYREF(&value) = place;
     }
   }
   EventArguments(const EventArguments&) = delete;
