@@ -23,9 +23,11 @@ using com::Pointer;
 
 /// What scripts call an object of each interface. A class that comes later gets its entry here.
 const std::map<std::string, std::string> kVariables = {
-    {"_clsInterfaceRangeList", "list"},   {"_clsExInputRange", "record"},
-    {"_colExInputRangeList", "records"},  {"_colGroupHeadings", "headings"},
-    {"_clsRangeGroupHeading", "heading"}, {"_ExcelFunctions", "functions"},
+    {"_clsInterfaceRangeList", "list"},    {"_clsExInputRange", "record"},
+    {"_colExInputRangeList", "records"},   {"_colGroupHeadings", "headings"},
+    {"_clsRangeGroupHeading", "heading"},  {"_ExcelFunctions", "functions"},
+    {"_clsRangeProperties", "properties"}, {"_clsColumnStyle", "style"},
+    {"_clsSaveSettings", "settings"},
 };
 
 std::vector<std::string> LinesOfScripts() {
