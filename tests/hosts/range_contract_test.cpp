@@ -75,8 +75,11 @@ TEST_P(RangeContract, ResizeKeepsTheFirstCellAndTheWidth) {
   EXPECT_EQ(AddressOf(GetObject(Cells("C3"), "Resize", {5})), "$C$3:$C$7");
 }
 
-TEST_P(RangeContract, ResizeToNoRowsFails) {
-  EXPECT_TRUE(Fails([&] { Get(Cells("C3:C10"), "Resize", {0}); }));
+TEST_P(RangeContract, ResizeToNoRowsOrBeyondTheSheetFails) {
+  for (const std::int32_t rows : {0, -1, 1048576}) {
+    EXPECT_TRUE(Fails([&] { Get(Cells("C3:C10"), "Resize", {rows}); })) << rows;
+  }
+  EXPECT_EQ(AddressOf(GetObject(Cells("C3"), "Resize", {1048574})), "$C$3:$C$1048576");
 }
 
 TEST_P(RangeContract, OffsetMovesTheArea) {
@@ -113,8 +116,25 @@ TEST_P(RangeContract, CellsCanHaveASecondName) {
   EXPECT_EQ(AddressOf(Cells("Sheet1__Code")), "$C$3");
 }
 
-TEST_P(RangeContract, ALetOfAWrongNameFails) {
-  EXPECT_TRUE(Fails([&] { Let(Cells("C3"), "Name", "a b"); }));
+TEST_P(RangeContract, ALetOfAWrongNameFailsAndLeavesNone) {
+  for (const char* name :
+       {"a b", "", "A1", "XFD1048576", "R1C1", "1st", "a-b", "a!b", "Nowhere!a"}) {
+    EXPECT_TRUE(Fails([&] { Let(Cells("C3"), "Name", name); })) << name;
+  }
+  EXPECT_EQ(GetLong(Names(), "Count"), 0);
+}
+
+TEST_P(RangeContract, ALetOfANameWithATrailingBlankDefinesItWithoutTheBlank) {
+  Let(Cells("C3:C10"), "Name", "Code ");
+  EXPECT_EQ(AddressOf(Cells("Code")), "$C$3:$C$10");
+  EXPECT_EQ(GetLong(Names(), "Count"), 1);
+}
+
+TEST_P(RangeContract, ALetOfTheNameMovesItAlsoWhenItIsWrittenInAnotherCase) {
+  Let(Cells("C3"), "Name", "Sheet1__Code");
+  Let(Cells("C3:C10"), "Name", "SHEET1__CODE");
+  EXPECT_EQ(GetLong(Names(), "Count"), 1);
+  EXPECT_EQ(AddressOf(Cells("Sheet1__Code")), "$C$3:$C$10");
 }
 
 TEST_P(RangeContract, TheDefaultTextOfTheNameIsTheReferenceWithQuotesWhereNeeded) {
