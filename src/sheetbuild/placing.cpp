@@ -100,7 +100,7 @@ clsInterfaceRangeList::Record clsInterfaceRangeList::AddRangeToSpreadsheet(
                      }
                      at();
                      clsRangeProperties& properties = Required(oRngProps);
-                     const Record definition = ranges_->Item(properties.get_RangeName());
+                     Record definition = ranges_->Item(properties.get_RangeName());
                      at();
                      const std::int32_t rows = SizeSelection(rngSelected, *definition, properties);
                      at();
