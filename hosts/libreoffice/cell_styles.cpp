@@ -17,7 +17,7 @@ constexpr std::size_t kDigits = 6;
 
 std::string FillText(std::int32_t fill) {
   std::array<char, kDigits + 1> text{};
-  if (fill < 0) return "NoFill";
+  if (fill == kNoFill) return "NoFill";
   std::snprintf(text.data(), text.size(), "%06X", static_cast<unsigned>(fill) & 0xFFFFFFU);
   return text.data();
 }
@@ -28,7 +28,7 @@ std::string BaseOf(const std::string& style) {
   if (style.size() <= kDigits + 1 || style[style.size() - kDigits - 1] != ' ') return style;
   const std::string fill = style.substr(style.size() - kDigits);
   const bool isFill =
-      fill == FillText(-1) || fill.find_first_not_of("0123456789ABCDEF") == std::string::npos;
+      fill == FillText(kNoFill) || fill.find_first_not_of("0123456789ABCDEF") == std::string::npos;
   return isFill ? style.substr(0, style.size() - kDigits - 1) : style;
 }
 
@@ -44,7 +44,7 @@ const Reference<css::container::XNameContainer>& CellStyles::All() {
 }
 
 std::int32_t CellStyles::FillOf(const std::string& style) {
-  if (style.empty()) return -1;
+  if (style.empty()) return kNoFill;
   return Property<std::int32_t>(
       Extract<Reference<css::beans::XPropertySet>>(All()->getByName(ToUno(style))), kFill);
 }
@@ -56,7 +56,10 @@ std::string CellStyles::WithFill(const std::string& style, std::int32_t fill) {
   const auto made = As<css::lang::XMultiServiceFactory>(model_)->createInstance(
       ToUno("com.sun.star.style.CellStyle"));
   All()->insertByName(ToUno(name), Any(made));
-  if (base != kPlain) As<css::style::XStyle>(made)->setParentStyle(ToUno(base));
+  const bool isPlain = base == kPlain;
+  // A fill that is none would be drawn, in white, by other programs.
+  if (isPlain && fill == kNoFill) return name;
+  if (!isPlain) As<css::style::XStyle>(made)->setParentStyle(ToUno(base));
   As<css::beans::XPropertySet>(made)->setPropertyValue(ToUno(kFill), Any(fill));
   return name;
 }

@@ -10,12 +10,15 @@
 
 namespace rangewerks::hosts::libreoffice {
 
+/// The office's colour for no fill; others are 0xRRGGBB.
+inline constexpr std::int32_t kNoFill = -1;
+
 /// Styles are known by their names. An empty name is the look of a condition that changes nothing.
 class CellStyles {
  public:
   explicit CellStyles(const Reference<css::frame::XModel>& model) : model_(model) {}
 
-  /// The fill of a style, 0xRRGGBB or -1 for none.
+  /// The fill of a style.
   std::int32_t FillOf(const std::string& style);
   /// The name of the style that is like `style` but for this fill; made when it is new. Two
   /// conditions that want the same share it.

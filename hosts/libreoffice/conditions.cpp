@@ -206,8 +206,10 @@ std::int32_t AddCondition(const CellBlock& cells, const std::string& formula) {
   Detach(cells, before);
   const css::table::CellAddress first(cells.sheet->Index(), cells.area.column - 1,
                                       cells.area.row - 1);
+  // A condition without a style would be saved with a reference to a look that isn't in the file.
+  const Any style(ToUno(cells.book->Styles().WithFill("", kNoFill)));
   const std::vector<PropertyValue> condition{
-      Value("Operator", Any(css::sheet::ConditionOperator_FORMULA)),
+      Value("StyleName", style), Value("Operator", Any(css::sheet::ConditionOperator_FORMULA)),
       Value("Formula1", Any(ToUno(formula))), Value("SourcePosition", Any(first))};
   for (const CellProperties& part : PartsByProperty(*cells.sheet, cells.area, kConditions)) {
     ChangeEntries(part, [&](const Entries& entries) { entries->addNew(ToSequence(condition)); });

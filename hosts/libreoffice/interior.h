@@ -5,9 +5,6 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-/// The office's colours are 0xRRGGBB, and kNoFill for none.
-inline constexpr std::int32_t kNoFill = -1;
-
 class Interior : public CellsPart {
  public:
   const MemberTable& Members() const override;

@@ -320,6 +320,18 @@ TEST_F(LibreOfficeFormatting, AWorkbookOpenedForReadingCantBeFormatted) {
   SharedOffice().Close(opened);
 }
 
+TEST_F(LibreOfficeFormatting, AConditionWithoutAFillIsSavedWithALookThatChangesNothing) {
+  Cells(sheet_, "B2:B9").get_FormatConditions().Add(excel::xlExpression, "=ROW()=3");
+  const std::string path = folder_.File("book.xlsx");
+  SharedOffice().SaveCopyAs(book_, path);
+  EXPECT_THAT(PartOf(path, "xl/styles.xml"), HasSubstr("<dxfs count=\"1\"><dxf></dxf></dxfs>"));
+  EXPECT_THAT(PartOf(path, "xl/worksheets/sheet1.xml"), HasSubstr("dxfId=\"0\""));
+  const Object opened = SharedOffice().Open(path);
+  const excel::Range reopened = Cells(GetObject(opened, "ActiveSheet"), "B2:B9");
+  EXPECT_EQ(Part(reopened.get_FormatConditions(1), "Interior", "ColorIndex"), Variant(-4142));
+  SharedOffice().Close(opened);
+}
+
 TEST_F(LibreOfficeFormatting, AConditionThatIsHeldStaysTheOneOfItsCells) {
   Cells(sheet_, "B2:B20").get_FormatConditions().Add(excel::xlExpression, "=ROW()=3");
   const excel::Range part = Cells(sheet_, "B2:B9");
