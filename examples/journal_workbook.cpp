@@ -8,6 +8,7 @@
 #include "automation/dispatch.h"
 #include "journal.h"
 #include "office_sheet.h"
+#include "platform/excel_format.h"
 #include "rangelist/ExcelFunctions.h"
 
 namespace rangewerks::examples {
@@ -149,6 +150,20 @@ void WriteSmallJournal(const std::string& path) {
   std::ofstream file(path);
   file << JsonWorkbook(SmallQuarter()).dump(1) << '\n';
   if (!file.flush()) throw std::runtime_error(path + " can't be written");
+}
+
+void WriteJournalForm(hosts::libreoffice::Office& office, const std::string& path) {
+  const automation::Object book = office.NewWorkbook({"Journal"});
+  const excel::Worksheet sheet(book.Get(Member("Sheets"), {"Journal"}).AsObject());
+  const OfficeSheet form(sheet);
+  form.Put(1, 1, Text("Journal"));
+  sheet.get_Range("A1").get_Font().let_Bold(true);
+  std::int32_t row = kHeaderRow;
+  for (const Column& cell : FirstQuarter().header) {
+    form.Put(row++, kHeaderColumn - 2, {Variant(cell.heading), {}});
+  }
+  office.SaveCopyAs(book, path);
+  office.Close(book);
 }
 
 }  // namespace rangewerks::examples

@@ -13,4 +13,7 @@ void WriteJournal(hosts::libreoffice::Office& office, const std::string& path);
 /// The beginning of the first of them, for the workbook in memory.
 void WriteSmallJournal(const std::string& path);
 
+/// A sheet with the words of the header and no ranges yet, for these to be placed on.
+void WriteJournalForm(hosts::libreoffice::Office& office, const std::string& path);
+
 }  // namespace rangewerks::examples

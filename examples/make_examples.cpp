@@ -16,6 +16,7 @@ int main(int argc, char** argv) {
     const std::filesystem::path folder = argv[1];
     rangewerks::hosts::libreoffice::Office office;
     rangewerks::examples::WriteJournal(office, folder / "journal-2024.xlsx");
+    rangewerks::examples::WriteJournalForm(office, folder / "journal-form.xlsx");
     rangewerks::examples::WriteOrders(office, folder / "orders.ods");
     rangewerks::examples::WriteSmallJournal(folder / "journal-small.workbook.json");
   } catch (const std::exception& error) {

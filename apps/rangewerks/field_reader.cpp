@@ -32,13 +32,26 @@ std::optional<bool> FieldReader::Boolean(std::string_view field) {
 
 std::optional<std::int16_t> FieldReader::Integer(std::string_view field) {
   using Limits = std::numeric_limits<std::int16_t>;
+  const auto found = WholeNumber(field, Limits::min(), Limits::max());
+  if (!found) return std::nullopt;
+  return static_cast<std::int16_t>(*found);
+}
+
+std::optional<std::int32_t> FieldReader::WholeNumber(std::string_view field, std::int32_t least,
+                                                     std::int32_t most) {
   const Json* found = Find(field);
   if (found == nullptr) return std::nullopt;
+  const auto isWithin = [&](auto number) {
+    return std::cmp_greater_equal(number, least) && std::cmp_less_equal(number, most);
+  };
   const bool fits = found->is_number_unsigned()
-                        ? found->get<std::uint64_t>() <= std::uint64_t{Limits::max()}
-                        : found->is_number_integer() && found->get<std::int64_t>() >= Limits::min();
-  if (!fits) RefuseValue(field, *found, "a whole number from -32768 to 32767");
-  return found->get<std::int16_t>();
+                        ? isWithin(found->get<std::uint64_t>())
+                        : found->is_number_integer() && isWithin(found->get<std::int64_t>());
+  if (!fits) {
+    RefuseValue(field, *found,
+                "a whole number from " + std::to_string(least) + " to " + std::to_string(most));
+  }
+  return found->get<std::int32_t>();
 }
 
 const Json* FieldReader::List(std::string_view field) {

@@ -42,6 +42,9 @@ class FieldReader {
   std::optional<std::string> Text(std::string_view field);
   std::optional<bool> Boolean(std::string_view field);
   std::optional<std::int16_t> Integer(std::string_view field);
+  /// A whole number within these bounds.
+  std::optional<std::int32_t> WholeNumber(std::string_view field, std::int32_t least,
+                                          std::int32_t most);
   template <class Value, std::size_t count>
   std::optional<Value> OneOfWords(std::string_view field,
                                   const std::array<Word<Value>, count>& words);

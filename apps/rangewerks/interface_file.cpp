@@ -94,6 +94,7 @@ void ReadSwitches(FieldReader& fields, clsInterfaceRangeList& list) {
   list.let_LeaveBlankOnPopulate(fields.Boolean("LeaveBlankOnPopulate").value_or(false));
   list.let_LeaveFormulaOnPopulate(fields.Boolean("LeaveFormulaOnPopulate").value_or(false));
   list.let_DoNotCheckIsFormula(fields.Boolean("DoNotCheckIsFormula").value_or(false));
+  list.let_AddNumberValidation(fields.Boolean("AddNumberValidation").value_or(false));
   list.let_DefaultTag(fields.Text("DefaultTag").value_or(""));
 }
 

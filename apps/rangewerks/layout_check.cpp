@@ -9,17 +9,6 @@
 
 namespace rangewerks::apps {
 
-namespace {
-
-Json JsonFault(const LayoutCheck& check) {
-  if (!check.fault) return nullptr;
-  return {{"number", check.fault->Number()},
-          {"description", check.fault->Description()},
-          {"source", check.fault->Source()}};
-}
-
-}  // namespace
-
 LayoutCheck CheckLayout(clsInterfaceRangeList& list, const excel::Worksheet& sheet,
                         Progress& progress) {
   progress.Say("looking for the ranges");
@@ -53,6 +42,13 @@ std::string JsonOf(const std::string& book, const LayoutCheck& check) {
                    {"sound", !check.fault},
                    {"ranges", JsonRanges(check.found)},
                    {"error", JsonFault(check)}});
+}
+
+Json JsonFault(const LayoutCheck& check) {
+  if (!check.fault) return nullptr;
+  return {{"number", check.fault->Number()},
+          {"description", check.fault->Description()},
+          {"source", check.fault->Source()}};
 }
 
 std::string CsvOf(const LayoutCheck& check) {

@@ -5,6 +5,7 @@
 #include <optional>
 #include <string>
 
+#include "apps/rangewerks/json_document.h"
 #include "apps/rangewerks/progress.h"
 #include "apps/rangewerks/sheet_ranges.h"
 #include "automation/error.h"
@@ -26,6 +27,8 @@ std::string TableOf(const std::string& book, const LayoutCheck& check);
 std::string JsonOf(const std::string& book, const LayoutCheck& check);
 /// A heading and a line for each range; the fault has no room in it.
 std::string CsvOf(const LayoutCheck& check);
+/// Number, description and source of what is wrong with the layout; null when it is sound.
+Json JsonFault(const LayoutCheck& check);
 /// What is wrong with the layout, in the system's own words, each line with `indent` in front.
 std::string FaultLinesOf(const LayoutCheck& check, const std::string& indent);
 

@@ -9,6 +9,7 @@
 #include "apps/rangewerks/clear_command.h"
 #include "apps/rangewerks/failure.h"
 #include "apps/rangewerks/fill_command.h"
+#include "apps/rangewerks/place_command.h"
 #include "apps/rangewerks/read_command.h"
 #include "apps/rangewerks/validate_command.h"
 #include "automation/error.h"
@@ -62,6 +63,20 @@ constexpr const char* kClearFooter =
     "Exit status: 0 when all that was chosen is cleared, 1 when a range was kept for a formula, 2\n"
     "for wrong usage or files; then nothing is saved.\n";
 
+constexpr const char* kPlaceFooter =
+    "Examples:\n"
+    "  rangewerks place form.xlsx --interface journal.interface.json --layout journal.layout.json "
+    "--save journal.xlsx\n"
+    "  rangewerks place form.xlsx --interface journal.interface.json --range debit --at D12 "
+    "--rows 20 --save journal.xlsx\n\n"
+    "A placed range has its workbook name, number format, validation, the message that is shown\n"
+    "when a cell of it is selected, a heading in the cell above if it is a detail column, and the\n"
+    "person's stored colours (docs/settings.md). What the cells hold stays. A layout file names\n"
+    "ranges and their places (docs/layout-file.md). For a new workbook save an empty one from the\n"
+    "spreadsheet program, or write {\"sheets\": [{\"name\": \"Journal\"}]} into a .json file.\n"
+    "Exit status: 0 when all was placed, 1 when a validation or message couldn't be added or the\n"
+    "layout isn't sound, 2 for wrong usage or files; then nothing is saved.\n";
+
 void AddSheetOptions(CLI::App& command, SheetOptions& options) {
   static const std::map<std::string, HostKind> hosts = {{"libreoffice", HostKind::LibreOffice},
                                                         {"workbook", HostKind::Workbook}};
@@ -104,7 +119,7 @@ void AddSaveOptions(CLI::App& command, SaveOptions& options) {
 /// The commands of the program, one of which is chosen and carried out.
 class Commands {
  public:
-  explicit Commands(CLI::App& app) {
+  Commands(CLI::App& app, const rangewerks::platform::System& system) {
     Add(app, "read", "Print what a posting program would read from a sheet", kReadFooter, read_,
         [this](Console to) { return RunRead(read_, to); });
     Add(app, "validate", "Check the layout of a sheet's ranges", kValidateFooter, validate_,
@@ -121,6 +136,12 @@ class Commands {
             clear_.sheet, [this](Console to) { return RunClear(clear_, to); });
     AddClearOptions(*clear);
     AddSaveOptions(*clear, clear_.save);
+    CLI::App* place = Add(app, "place", "Put declared ranges onto a sheet and save the workbook",
+                          kPlaceFooter, place_.sheet, [this, &system](Console to) {
+                            return RunPlace(place_, system.OpenRegistry(), to);
+                          });
+    AddPlaceOptions(*place);
+    AddSaveOptions(*place, place_.save);
   }
 
   ExitStatus Run(Console console) const { return run_(console); }
@@ -153,14 +174,44 @@ class Commands {
         ->excludes(tag);
   }
 
+  void AddPlaceOptions(CLI::App& place) {
+    CLI::Option* layout = place
+                              .add_option("--layout", place_.layout,
+                                          "Places the ranges of this file (docs/layout-file.md)")
+                              ->type_name("FILE");
+    CLI::Option* range =
+        place.add_option("--range", place_.range, "Places this one range")->type_name("NAME");
+    CLI::Option* at =
+        place.add_option("--at", place_.at, "The range's cells, such as B3 or D12:D31")
+            ->type_name("ADDRESS");
+    place
+        .add_option("--rows", place_.rows,
+                    "The range's height from the first cell of ADDRESS; a header stays one cell")
+        ->check(CLI::Range(std::int32_t{1}, kMostRows))
+        ->type_name("N")
+        ->needs(range);
+    range->needs(at)->excludes(layout);
+    at->needs(range);
+    const auto without = [&](const char* name, bool& feature, const char* what) {
+      place.add_flag_callback(
+          name, [&feature] { feature = false; }, what);
+    };
+    PlaceFeatures& features = place_.features;
+    without("--no-format", features.format, "Without number formats and alignment");
+    without("--no-validation", features.validation, "Without validation");
+    without("--no-tooltips", features.tooltips, "Without the messages at selected cells");
+    without("--no-headings", features.headings, "Without headings above detail columns");
+  }
+
   SheetOptions read_;
   SheetOptions validate_;
   FillOptions fill_;
   ClearOptions clear_;
+  PlaceOptions place_;
   std::function<ExitStatus(Console)> run_;
 };
 
-constexpr const char* kCommandNames = "read, validate, fill and clear";
+constexpr const char* kCommandNames = "read, validate, fill, clear and place";
 
 /// What is wrong with the arguments; CLI11's own words for a missing command name none.
 std::string WordsOf(const CLI::ParseError& error, const CLI::App& app, int argc, char** argv) {
@@ -189,14 +240,15 @@ int Run(int argc, char** argv) {
   app.set_version_flag("--version", "rangewerks " RANGEWERKS_VERSION);
   app.require_subcommand(1);
   app.footer(kFooter);
-  Commands commands(app);
+  const rangewerks::systems::PosixSystem system;
+  Commands commands(app, system);
   try {
     app.parse(argc, argv);
   } catch (const CLI::ParseError& error) {
     if (error.get_exit_code() == static_cast<int>(CLI::ExitCodes::Success)) return app.exit(error);
     return Tell(WordsOf(error, app, argc, argv) + "\n" + HelpFor(app));
   }
-  rangewerks::automation::Locale::SetCurrent(rangewerks::systems::PosixSystem().CurrentLocale());
+  rangewerks::automation::Locale::SetCurrent(system.CurrentLocale());
   return commands.Run({std::cout, std::cerr, isatty(STDERR_FILENO) == 1});
 }
 

@@ -61,11 +61,13 @@ class CommandLine : public ::testing::Test {
     std::ifstream file(folder_ / name);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-  /// Runs the program in a folder with the two files above; `arguments` are the shell's.
+  /// Runs the program in a folder with the two files above; `arguments` are the shell's. Settings
+  /// are those of the folder.
   Outcome Run(const std::string& arguments) const {
     const std::string command = "cd '" + folder_.string() +
-                                "' && { LC_ALL=C '" RANGEWERKS_PROGRAM "' " + arguments +
-                                "; } >.output 2>.messages </dev/null";
+                                "' && { XDG_CONFIG_HOME=\"$PWD\" LC_ALL=C '" RANGEWERKS_PROGRAM
+                                "' " +
+                                arguments + "; } >.output 2>.messages </dev/null";
     const int status = std::system(command.c_str());
     return {WIFEXITED(status) ? WEXITSTATUS(status) : -1, Text(".output"), Text(".messages")};
   }
