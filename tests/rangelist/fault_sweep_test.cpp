@@ -66,8 +66,7 @@ Rules Clearing(const Chain& outer) {
 Rules ReadingADate(const Chain& outer) {
   const std::string words = "Invalid date in range day";
   return {At({"Worksheet.Application", "Application.International"},
-             Replaced(errRwkInvalidRangeValue, words,
-                      Levels({"GetDateRange"}) + outer))};
+             Replaced(errRwkInvalidRangeValue, words, Levels({"GetDateRange"}) + outer))};
 }
 
 /// Not to find a range is an answer; to lose the row of one that was found isn't.
