@@ -8,7 +8,11 @@ namespace rangewerks::apps {
 namespace {
 
 std::vector<PlaceOrder> OrdersOf(const PlaceOptions& options, const clsInterfaceRangeList& list) {
-  if (options.layout) return ReadLayoutFile(*options.layout, list);
+  if (options.layout) {
+    std::vector<PlaceOrder> orders = ReadLayoutFile(*options.layout, list);
+    for (PlaceOrder& order : orders) order.place = *options.layout + ": " + order.place;
+    return orders;
+  }
   if (!options.range) {
     throw Failure(
         "say what to place: --layout FILE for several ranges, or --range NAME --at ADDRESS for "

@@ -337,12 +337,12 @@ TEST_F(PlaceCommand, CellsThatTwoRangesWouldShareAreRefused) {
   };
   layout(R"({"RangeName": "day", "At": "A5:A7"}, {"RangeName": "paid", "At": "A7:A9"})");
   ExpectNothingDone(kPlaceAll,
-                    "/ranges/1/At (range paid): range paid (A7:A9) lies on range day (A5:A7), see "
-                    "/ranges/0/At (range day)");
+                    "layout.json: /ranges/1/At (range paid): range paid (A7:A9) lies on range day "
+                    "(A5:A7), see layout.json: /ranges/0/At (range day)");
   layout(R"({"RangeName": "day", "At": "A5:A7"}, {"RangeName": "batch", "At": "A4"})");
   ExpectNothingDone(kPlaceAll,
-                    "/ranges/0/At (range day): the heading of range day (A4) lies on range batch "
-                    "(A4), see /ranges/1/At (range batch)");
+                    "layout.json: /ranges/0/At (range day): the heading of range day (A4) lies on "
+                    "range batch (A4), see layout.json: /ranges/1/At (range batch)");
   EXPECT_EQ(Run(std::string(kPlaceAll) + "--no-headings").status, 1) << "net_amount is missing";
   const Outcome onSheet =
       Run("place out.json --interface form.interface.json --range note --at A3 --rows 2 "
