@@ -63,6 +63,7 @@ TEST(InterfaceFile, FieldsLeftOutHaveTheDefaultsOfARecord) {
   EXPECT_EQ(record->get_Tag(), "");
   EXPECT_FALSE(record->get_CanBeHeader());
   EXPECT_FALSE(list->get_SheetRangeNames());
+  EXPECT_FALSE(list->get_AddNumberValidation());
   EXPECT_FALSE(list->get_BlankRangeIsThere());
   EXPECT_FALSE(list->get_ValidateDecimalPlaces());
   EXPECT_EQ(list->get_RangePrefix(), "");
@@ -70,13 +71,15 @@ TEST(InterfaceFile, FieldsLeftOutHaveTheDefaultsOfARecord) {
 
 TEST(InterfaceFile, SetsTheSwitchesOfTheList) {
   const auto list = ParseInterface(R"({
-    "SheetRangeNames": true, "RangePrefix": "SO_", "BlankRangeIsThere": true,
+    "SheetRangeNames": true, "RangePrefix": "SO_", "AddNumberValidation": true,
+    "BlankRangeIsThere": true,
     "ValidateDecimalPlaces": true, "DefaultTag": "T1",
     "ranges": [{"RangeName": "a", "DetailIndicator": "H", "RangeDataType": "rdtString"},
                {"RangeName": "b", "DetailIndicator": "H", "RangeDataType": "rdtString",
                 "Tag": ""}]})");
   EXPECT_TRUE(list->get_SheetRangeNames());
   EXPECT_TRUE(list->get_UsingSheetRangeNames());
+  EXPECT_TRUE(list->get_AddNumberValidation());
   EXPECT_EQ(list->get_RangePrefix(), "SO_");
   EXPECT_TRUE(list->get_BlankRangeIsThere());
   EXPECT_TRUE(list->get_ValidateDecimalPlaces());
