@@ -5,6 +5,7 @@
 #include <span>
 #include <vector>
 
+#include "com/bridge/counted.h"
 #include "com/bridge/failures.h"
 #include "com/bridge/text.h"
 #include "com/bridge/type_information.h"
@@ -77,28 +78,11 @@ void Tell(IDispatch& listener, ITypeInfo& source, Member event,
 }
 
 /// Enumerates the only connection point that there is.
-class OnePoint final : public IEnumConnectionPoints {
+class OnePoint final : public Counted<IEnumConnectionPoints> {
  public:
   OnePoint(Pointer<IConnectionPoint> point, bool passed)
       : point_(std::move(point)), passed_(passed) {}
-  OnePoint(const OnePoint&) = delete;
-  OnePoint& operator=(const OnePoint&) = delete;
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (object == nullptr) return E_POINTER;
-    const bool known =
-        IsEqualIID(iid, IID_IUnknown) != 0 || IsEqualIID(iid, __uuidof(IEnumConnectionPoints)) != 0;
-    *object = known ? static_cast<IEnumConnectionPoints*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
   HRESULT STDMETHODCALLTYPE Next(ULONG count, IConnectionPoint** points,
                                  ULONG* fetched) noexcept override {
     if (points == nullptr || (fetched == nullptr && count > 1)) return E_POINTER;
@@ -124,10 +108,6 @@ class OnePoint final : public IEnumConnectionPoints {
   }
 
  private:
-  ~OnePoint() = default;
-
-  ModuleLock lock_;
-  std::atomic<ULONG> references_ = 1;
   Pointer<IConnectionPoint> point_;
   bool passed_;
 };

@@ -1,12 +1,11 @@
 #include "com/bridge/enumerators.h"
 
-#include <atomic>
 #include <utility>
 
 #include "automation/error.h"
+#include "com/bridge/counted.h"
 #include "com/bridge/failures.h"
 #include "com/bridge/values.h"
-#include "com/module/module.h"
 
 namespace rangewerks::com {
 namespace {
@@ -31,28 +30,10 @@ class ForeignWalk final : public Enumerator {
   Pointer<IEnumVARIANT> walk_;
 };
 
-class EnumVariant final : public IEnumVARIANT {
+class EnumVariant final : public Counted<IEnumVARIANT> {
  public:
   EnumVariant(Object collection, std::unique_ptr<Enumerator> walk)
       : collection_(std::move(collection)), walk_(std::move(walk)) {}
-  EnumVariant(const EnumVariant&) = delete;
-  EnumVariant& operator=(const EnumVariant&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (object == nullptr) return E_POINTER;
-    const bool known =
-        IsEqualIID(iid, IID_IUnknown) != 0 || IsEqualIID(iid, __uuidof(IEnumVARIANT)) != 0;
-    *object = known ? static_cast<IEnumVARIANT*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
 
   HRESULT STDMETHODCALLTYPE Next(ULONG count, VARIANT* elements, ULONG* fetched) noexcept override {
     if (fetched != nullptr) *fetched = 0;
@@ -94,10 +75,6 @@ class EnumVariant final : public IEnumVARIANT {
   }
 
  private:
-  ~EnumVariant() = default;
-
-  ModuleLock lock_;
-  std::atomic<ULONG> references_ = 1;
   Object collection_;
   std::unique_ptr<Enumerator> walk_;
 };

@@ -2,16 +2,15 @@
 
 #include <ocidl.h>
 
-#include <atomic>
 #include <string>
 #include <unordered_map>
 #include <utility>
 
 #include "automation/error.h"
+#include "com/bridge/counted.h"
 #include "com/bridge/failures.h"
 #include "com/bridge/incoming_arguments.h"
 #include "com/bridge/type_information.h"
-#include "com/module/module.h"
 
 namespace rangewerks::com {
 namespace {
@@ -22,31 +21,13 @@ using automation::ErrorNumber;
 using automation::EventHandler;
 using automation::Member;
 
-class EventSink final : public IDispatch {
+class EventSink final : public Counted<IDispatch> {
  public:
   EventSink(Pointer<ITypeInfo> source, EventHandler handler)
       : source_(std::move(source)),
         interface_(IdentifierOf(*source_.Get())),
         handler_(std::move(handler)) {}
-  EventSink(const EventSink&) = delete;
-  EventSink& operator=(const EventSink&) = delete;
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (object == nullptr) return E_POINTER;
-    const bool known = IsEqualIID(iid, IID_IUnknown) != 0 ||
-                       IsEqualIID(iid, __uuidof(IDispatch)) != 0 ||
-                       IsEqualIID(iid, interface_) != 0;
-    *object = known ? static_cast<IDispatch*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
     if (count == nullptr) return E_POINTER;
     *count = 0;
@@ -83,7 +64,7 @@ class EventSink final : public IDispatch {
   void Silence() { handler_ = {}; }
 
  private:
-  ~EventSink() = default;
+  bool AnswersTo(REFIID iid) const noexcept override { return IsEqualIID(iid, interface_) != 0; }
 
   const std::string& EventOf(DISPID id) {
     const auto [entry, added] = names_.try_emplace(id);
@@ -91,8 +72,6 @@ class EventSink final : public IDispatch {
     return entry->second;
   }
 
-  ModuleLock lock_;
-  std::atomic<ULONG> references_ = 1;
   Pointer<ITypeInfo> source_;
   GUID interface_;
   EventHandler handler_;

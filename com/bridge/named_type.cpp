@@ -1,36 +1,17 @@
 // Callers learn an object's type name from its type information only, so an object that no type
 // library describes needs one with its name in it.
-#include <atomic>
-#include <utility>
+#include <new>
 
+#include "com/bridge/counted.h"
 #include "com/bridge/text.h"
 #include "com/bridge/type_information.h"
-#include "com/module/module.h"
 
 namespace rangewerks::com {
 namespace {
 
-class NameOnly final : public ITypeInfo {
+class NameOnly final : public Counted<ITypeInfo> {
  public:
   explicit NameOnly(const std::string& name) : name_(name) {}
-  NameOnly(const NameOnly&) = delete;
-  NameOnly& operator=(const NameOnly&) = delete;
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** object) noexcept override {
-    if (object == nullptr) return E_POINTER;
-    const bool known =
-        IsEqualIID(iid, IID_IUnknown) != 0 || IsEqualIID(iid, __uuidof(ITypeInfo)) != 0;
-    *object = known ? static_cast<ITypeInfo*>(this) : nullptr;
-    if (!known) return E_NOINTERFACE;
-    AddRef();
-    return S_OK;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) delete this;
-    return left;
-  }
 
   HRESULT STDMETHODCALLTYPE GetDocumentation(MEMBERID member, BSTR* name, BSTR* help,
                                              DWORD* helpContext, BSTR* helpFile) noexcept override {
@@ -109,10 +90,6 @@ class NameOnly final : public ITypeInfo {
   void STDMETHODCALLTYPE ReleaseVarDesc(VARDESC* /*v*/) noexcept override {}
 
  private:
-  ~NameOnly() = default;
-
-  ModuleLock lock_;
-  std::atomic<ULONG> references_ = 1;
   Bstr name_;
 };
 

@@ -2,25 +2,11 @@
 
 #include "com/bridge/failures.h"
 #include "com/bridge/objects.h"
+#include "com/module/module.h"
 
 namespace rangewerks::com {
 
-HRESULT ClassFactory::QueryInterface(REFIID iid, void** result) {
-  if (result == nullptr) return E_POINTER;
-  *result = nullptr;
-  if (iid != IID_IUnknown && iid != IID_IClassFactory) return E_NOINTERFACE;
-  AddRef();
-  *result = static_cast<IClassFactory*>(this);
-  return S_OK;
-}
-
-ULONG ClassFactory::Release() {
-  const ULONG left = --references_;
-  if (left == 0) delete this;
-  return left;
-}
-
-HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** result) {
+HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** result) noexcept {
   if (result == nullptr) return E_POINTER;
   *result = nullptr;
   if (outer != nullptr) return CLASS_E_NOAGGREGATION;
@@ -31,7 +17,7 @@ HRESULT ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** result)
   }
 }
 
-HRESULT ClassFactory::LockServer(BOOL lock) {
+HRESULT ClassFactory::LockServer(BOOL lock) noexcept {
   if (lock != FALSE) {
     LockModule();
   } else {

@@ -4,31 +4,22 @@
 #include <unknwn.h>
 #include <windows.h>
 
-#include <atomic>
-
-#include "com/module/module.h"
+#include "com/bridge/counted.h"
 #include "com/server/server.h"
 
 namespace rangewerks::com {
 
-/// Makes objects of one class; refuses to make them part of another object. Made with new; the last
-/// Release deletes it.
-class ClassFactory final : public IClassFactory {
+/// Makes objects of one class; refuses to make them part of another object.
+class ClassFactory final : public Counted<IClassFactory> {
  public:
   explicit ClassFactory(const ServedClass& served) : served_(served) {}
 
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID iid, void** result) override;
-  ULONG STDMETHODCALLTYPE AddRef() override { return ++references_; }
-  ULONG STDMETHODCALLTYPE Release() override;
-  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid, void** result) override;
-  HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) override;
+  HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID iid,
+                                           void** result) noexcept override;
+  HRESULT STDMETHODCALLTYPE LockServer(BOOL lock) noexcept override;
 
  private:
-  ~ClassFactory() = default;
-
   const ServedClass& served_;
-  std::atomic<ULONG> references_ = 0;
-  ModuleLock keepsModule_;
 };
 
 }  // namespace rangewerks::com

@@ -26,7 +26,7 @@ HRESULT GetClassObject(REFCLSID classId, REFIID iid, void** result) {
       server.classes, [&](const ServedClass& one) { return one.id == classId; });
   if (served == server.classes.end()) return CLASS_E_CLASSNOTAVAILABLE;
   PrepareOnce(server);
-  return Pointer<ClassFactory>(new ClassFactory(*served))->QueryInterface(iid, result);
+  return Pointer<ClassFactory>::Adopt(new ClassFactory(*served))->QueryInterface(iid, result);
 }
 
 }  // namespace
