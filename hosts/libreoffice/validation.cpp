@@ -91,7 +91,7 @@ std::int32_t NumberOf(const std::array<Pair<Office>, size>& pairs, Office office
 }
 
 /// "Y,N" as the office keeps it: "Y";"N" with the quotes.
-std::string NativeList(const std::string& elements) {
+std::string NativeList(std::string_view elements) {
   std::string native;
   std::size_t start = 0;
   while (start <= elements.size()) {
