@@ -237,8 +237,7 @@ class clsInterfaceRangeList final : public automation::AutomationClass {
   /// ExcelFunctions::ValidateRanges of this list.
   bool ValidateRanges();
 
-  // --- placing on a sheet, in sheetbuild
-  // -----------------------------------------------------------
+  // --- placing on a sheet (defined in sheetbuild) ------------------------------------------------
 
   /// Makes the selected cells the declared range `oRngProps->RangeName`: sizes them, names them,
   /// gives them number format, validation, input message, heading and colours as the properties
