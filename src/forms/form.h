@@ -15,12 +15,12 @@
 #pragma once
 
 #include <cstdint>
-#include <exception>
 #include <functional>
 #include <memory>
 #include <string>
 #include <vector>
 
+#include "automation/error.h"
 #include "forms/control.h"
 #include "forms/form_window.h"
 #include "forms/toolkit.h"
@@ -104,13 +104,13 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   void PersonMoved(const Place& place);
   /// The person has closed the window.
   void PersonClosed();
-  /// Runs a handler of a person's action. A failure that it doesn't handle is told to the person.
+  /// Runs a handler of a person's action. An error that it doesn't handle is told to the person.
   template <class Handler>
   void Handle(Handler&& handler) {
     const std::shared_ptr<Form> keep = weak_from_this().lock();
     try {
       handler();
-    } catch (const std::exception& failure) {
+    } catch (const automation::Error& failure) {
       toolkit_->ReportUnhandled(failure, IsVisible() ? this : nullptr);
     }
   }
