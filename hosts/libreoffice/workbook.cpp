@@ -3,6 +3,7 @@
 #include <filesystem>
 
 #include "hosts/libreoffice/application.h"
+#include "hosts/libreoffice/document_properties.h"
 #include "hosts/libreoffice/documents.h"
 #include "hosts/libreoffice/worksheet.h"
 
@@ -31,7 +32,9 @@ const MemberTable& Workbook::Members() const {
           .Method(11, "SaveCopyAs", &Workbook::SaveCopyAs, {"Filename"},
                   "Writes a copy; the open workbook stays as it is.")
           .Method(12, "Close", &Workbook::Close, {Optional("SaveChanges")},
-                  "Closes without saving.");
+                  "Closes without saving.")
+          .Get(13, "CustomDocumentProperties", &Workbook::GetCustomDocumentProperties,
+               {Optional("Index")}, "The document's own properties, or one of them.");
   return table;
 }
 
@@ -52,6 +55,9 @@ Variant Workbook::GetActiveSheet() const {
   return Worksheet::Of(Office(), book_, book_->ActiveSheet());
 }
 Variant Workbook::GetApplication() const { return Application::Of(Office()); }
+Variant Workbook::GetCustomDocumentProperties(const Variant& index) const {
+  return Element<DocumentProperties>(index, Office(), book_);
+}
 void Workbook::Activate() { Office()->Activate(book_); }
 void Workbook::SaveCopyAs(const Variant& path) { SaveDocumentCopy(*book_, TextArgument(path)); }
 

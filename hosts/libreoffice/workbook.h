@@ -31,6 +31,7 @@ class Workbook final : public HostObject {
   Variant GetSheets(const Variant& index) const;
   Variant GetActiveSheet() const;
   Variant GetApplication() const;
+  Variant GetCustomDocumentProperties(const Variant& index) const;
   void Activate();
   void SaveCopyAs(const Variant& path);
   void Close(const Variant& saveChanges);
