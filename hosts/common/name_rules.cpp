@@ -10,6 +10,7 @@ namespace {
 
 constexpr std::size_t kLongestName = 255;
 constexpr std::size_t kLongestSheetName = 31;
+constexpr std::size_t kLongestModuleName = 31;
 constexpr std::string_view kNotInSheetNames = ":\\/?*[]";
 
 bool IsDigit(char c) { return c >= '0' && c <= '9'; }
@@ -64,6 +65,17 @@ std::string FaultOfSheetName(std::string_view name) {
     return "it holds the character \"" + std::string(1, name[bad]) + "\"";
   }
   if (name.front() == '\'' || name.back() == '\'') return "it begins or ends with an apostrophe";
+  return {};
+}
+
+std::string FaultOfModuleName(std::string_view name) {
+  if (name.empty()) return "it is empty";
+  if (automation::Length(name) > kLongestModuleName) return "it has more than 31 characters";
+  if (!IsLetter(name.front())) return "it doesn't begin with a letter";
+  for (const char c : name) {
+    if (IsLetter(c) || IsDigit(c) || c == '_') continue;
+    return "it holds the character \"" + std::string(1, c) + "\"";
+  }
   return {};
 }
 

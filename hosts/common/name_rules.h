@@ -1,4 +1,4 @@
-// Which names a workbook and a sheet can have.
+// Which names a workbook, a sheet and a macro module can have.
 #pragma once
 
 #include <string>
@@ -12,6 +12,9 @@ std::string FaultOfName(std::string_view name);
 
 /// The same for a sheet, apart from the other sheets' names.
 std::string FaultOfSheetName(std::string_view name);
+
+/// The same for a macro module, apart from the other modules' names.
+std::string FaultOfModuleName(std::string_view name);
 
 /// The sheet's name as references show it: in apostrophes, its own apostrophes doubled, when it
 /// isn't made of letters, digits, "_" and "." alone, begins with a digit or looks like a cell.

@@ -3,6 +3,7 @@
 
 #include <gmock/gmock.h>
 
+#include "hosts/common/name_rules.h"
 #include "hosts/late_calls.h"
 #include "support/error_of.h"
 
@@ -192,6 +193,19 @@ TEST(CodeText, AMissingProcedureIsToldInTheObjectModelsWords) {
   const auto error = ErrorOf([] { CodeText().ProcStartLine("Run", 0); });
   EXPECT_EQ(error.Number(), kSubNotDefined);
   EXPECT_EQ(error.Description(), "Sub or Function not defined");
+}
+
+TEST(ModuleNames, AreLettersDigitsAndUnderscoresBehindALetter) {
+  using hosts::FaultOfModuleName;
+  EXPECT_EQ(FaultOfModuleName("OstrelBrowseModule"), "");
+  EXPECT_EQ(FaultOfModuleName("Module_2"), "");
+  EXPECT_EQ(FaultOfModuleName("Zo\xC3\xAB"), "");
+  EXPECT_EQ(FaultOfModuleName(std::string(31, 'a')), "");
+  EXPECT_EQ(FaultOfModuleName(""), "it is empty");
+  EXPECT_EQ(FaultOfModuleName(std::string(32, 'a')), "it has more than 31 characters");
+  EXPECT_EQ(FaultOfModuleName("2nd"), "it doesn't begin with a letter");
+  EXPECT_EQ(FaultOfModuleName("_a"), "it doesn't begin with a letter");
+  EXPECT_EQ(FaultOfModuleName("a b"), "it holds the character \" \"");
 }
 
 }  // namespace
