@@ -8,18 +8,18 @@
 namespace rangewerks::forms {
 
 Control::Control(Container& parent, ControlKind kind, std::string name, ControlProperties design)
-    : parent_(&parent),
+    : parent_(parent),
       kind_(kind),
       name_(std::move(name)),
       design_(std::move(design)),
       now_(design_) {
-  parent_->children_.push_back(this);
+  parent_.children_.push_back(this);
 }
 
 Control::~Control() {
   // The window must go before the first of the controls that it shows.
   OwningForm().DropWindow();
-  std::erase(parent_->children_, this);
+  std::erase(parent_.children_, this);
 }
 
 const ControlProperties& Control::Now() const {
@@ -89,13 +89,13 @@ void Control::SetFocus() {
 
 bool Control::IsShown() const {
   if (!now_.visible) return false;
-  const auto* above = dynamic_cast<const Control*>(parent_);
+  const auto* above = dynamic_cast<const Control*>(&parent_);
   return above != nullptr ? above->IsShown() : OwningForm().IsVisible();
 }
 
 bool Control::IsUsable() const {
   if (!now_.visible || !now_.enabled) return false;
-  const auto* above = dynamic_cast<const Control*>(parent_);
+  const auto* above = dynamic_cast<const Control*>(&parent_);
   return above != nullptr ? above->IsUsable() : OwningForm().IsVisible();
 }
 

@@ -108,8 +108,8 @@ class Control {
   ControlKind Kind() const { return kind_; }
   const std::string& get_Name() const { return name_; }
   /// The container and the form that it stands on.
-  Container& get_Parent() const { return *parent_; }
-  Form& OwningForm() const { return parent_->OwningForm(); }
+  Container& get_Parent() const { return parent_; }
+  Form& OwningForm() const { return parent_.OwningForm(); }
   const std::string& get_Tag() const { return design_.tag; }
 
   double get_Left() const { return Now().place.left; }
@@ -165,7 +165,7 @@ class Control {
 
  private:
   friend class Form;
-  Container* parent_;
+  Container& parent_;
   ControlKind kind_;
   std::string name_;
   ControlProperties design_;
