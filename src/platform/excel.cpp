@@ -1,7 +1,10 @@
 #include "platform/excel.h"
 
 #include "automation/dispatch.h"
+#include "platform/excel_document_properties.h"
 #include "platform/excel_format.h"
+#include "platform/excel_menus.h"
+#include "platform/excel_vba.h"
 #include "platform/typed_call.h"
 
 namespace rangewerks::excel {
@@ -17,7 +20,9 @@ const Member kCells{"Cells"};
 const Member kClearContents{"ClearContents"};
 const Member kColumnWidth{"ColumnWidth"};
 const Member kColumns{"Columns"};
+const Member kCommandBars{"CommandBars"};
 const Member kCount{"Count"};
+const Member kCustomDocumentProperties{"CustomDocumentProperties"};
 const Member kDelete{"Delete"};
 const Member kEntireColumn{"EntireColumn"};
 const Member kFont{"Font"};
@@ -38,6 +43,8 @@ const Member kRange{"Range"};
 const Member kRefersToRange{"RefersToRange"};
 const Member kResize{"Resize"};
 const Member kRows{"Rows"};
+const Member kShortcutMenus{"ShortcutMenus"};
+const Member kVBProject{"VBProject"};
 const Member kValidation{"Validation"};
 const Member kValue{"Value"};
 const Member kWrapText{"WrapText"};
@@ -100,6 +107,10 @@ Range Worksheet::get_Range(const std::string& nameOrAddress) const {
 
 Application Workbook::get_Application() const { return Typed<Application>(Get(kApplication)); }
 Name Workbook::get_Names(const std::string& name) const { return Typed<Name>(Get(kNames, {name})); }
+VBProject Workbook::get_VBProject() const { return Typed<VBProject>(Get(kVBProject)); }
+DocumentProperties Workbook::get_CustomDocumentProperties() const {
+  return Typed<DocumentProperties>(Get(kCustomDocumentProperties));
+}
 
 Names Application::get_Names() const { return Typed<Names>(Get(kNames)); }
 Range Application::Intersect(const Range& first, const Range& second) const {
@@ -107,6 +118,10 @@ Range Application::Intersect(const Range& first, const Range& second) const {
 }
 Variant Application::get_International(InternationalIndex index) const {
   return Get(kInternational, {static_cast<std::int32_t>(index)});
+}
+CommandBars Application::get_CommandBars() const { return Typed<CommandBars>(Get(kCommandBars)); }
+Menu Application::get_ShortcutMenus(ShortcutMenuIndex index) const {
+  return Typed<Menu>(Get(kShortcutMenus, {static_cast<std::int32_t>(index)}));
 }
 
 }  // namespace rangewerks::excel

@@ -23,11 +23,15 @@ using automation::Variant;
 
 class Application;
 class Border;
+class CommandBars;
+class DocumentProperties;
 class Font;
 class FormatCondition;
 class FormatConditions;
 class Interior;
+class Menu;
 class Range;
+class VBProject;
 class Validation;
 class Workbook;
 class Worksheet;
@@ -137,6 +141,10 @@ class Workbook : public Object {
   Application get_Application() const;
   /// The name of that text. Fails when there is none.
   Name get_Names(const std::string& name) const;
+  /// The macro project (excel_vba.h). Fails, as an answer, where access to macros isn't trusted.
+  VBProject get_VBProject() const;
+  /// The workbook's own properties (excel_document_properties.h).
+  DocumentProperties get_CustomDocumentProperties() const;
 };
 
 class Application : public Object {
@@ -151,6 +159,10 @@ class Application : public Object {
   /// A fact of the host's locale: separators as text, the date order as 0 month first, 1 day first,
   /// 2 year first.
   Variant get_International(InternationalIndex index) const;
+  /// All menus (excel_menus.h).
+  CommandBars get_CommandBars() const;
+  /// A menu that a right click opens.
+  Menu get_ShortcutMenus(ShortcutMenuIndex index) const;
 };
 
 }  // namespace rangewerks::excel

@@ -72,6 +72,26 @@ enum FormatConditionType : std::int32_t {
   xlExpression = 2,
 };
 
+/// Index of Application.ShortcutMenus.
+enum ShortcutMenuIndex : std::int32_t {
+  xlWorksheetCell = 3,
+};
+
+/// The type of a custom document property, given to CustomDocumentProperties.Add.
+enum DocumentPropertyType : std::int32_t {
+  msoPropertyTypeBoolean = 2,
+};
+
+/// The type of a code module, given to VBComponents.Add.
+enum ComponentType : std::int32_t {
+  vbext_ct_StdModule = 1,
+};
+
+/// Which procedure of a name is meant.
+enum ProcedureKind : std::int32_t {
+  vbext_pk_Proc = 0,  ///< an ordinary one, no face of a property
+};
+
 /// Error numbers of cells (Variant's ErrorValue::Number).
 enum CellError : std::int32_t {
   xlErrNull = 2000,
