@@ -1,10 +1,12 @@
 #include "hosts/workbook/application.h"
 
+#include "hosts/workbook/command_bars.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/range.h"
 #include "hosts/workbook/shape.h"
 #include "hosts/workbook/sheets.h"
+#include "hosts/workbook/shortcut_menu.h"
 #include "hosts/workbook/testing.h"
 #include "hosts/workbook/workbook.h"
 #include "hosts/workbook/workbooks.h"
@@ -55,7 +57,11 @@ const MemberTable& Application::Members() const {
           .Get(13, "Cells", &Application::GetCells, {Optional("RowIndex"), Optional("ColumnIndex")},
                "All cells of the sheet in front, or one of them.")
           .Get(14, "Testing", &Application::GetTesting,
-               "The calls made, failures on request, and what else only a test needs.");
+               "The calls made, failures on request, and what else only a test needs.")
+          .Get(15, "CommandBars", &Application::GetCommandBars, {Optional("Index")},
+               "All menus, or one of them.")
+          .Get(16, "ShortcutMenus", &Application::GetShortcutMenus, {"Index"},
+               "A menu that a right click opens: 3, that of the cells.");
   return table;
 }
 
@@ -121,6 +127,15 @@ Variant Application::GetRange(const Variant& first, const Variant& second) const
 
 Variant Application::GetCells(const Variant& row, const Variant& column) const {
   return Worksheet::Of(Shared(), ActiveBook().active)->GetCells(row, column);
+}
+
+Variant Application::GetCommandBars(const Variant& index) const {
+  const auto bars = std::make_shared<CommandBars>(Shared());
+  return index.IsMissing() ? Variant(bars) : bars->GetItem(index);
+}
+
+Variant Application::GetShortcutMenus(std::int32_t index) const {
+  return Menu::Of(Shared(), index);
 }
 
 Variant Application::GetTesting() const { return std::make_shared<Testing>(Host(Shared())); }

@@ -31,6 +31,8 @@ class Application final : public ModelObject {
   Variant GetApplication() const;
   Variant GetRange(const Variant& first, const Variant& second) const;
   Variant GetCells(const Variant& row, const Variant& column) const;
+  Variant GetCommandBars(const Variant& index) const;
+  Variant GetShortcutMenus(std::int32_t index) const;
   Variant GetTesting() const;
   Variant Intersect(const Variant& first, const Variant& second) const;
 

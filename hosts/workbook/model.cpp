@@ -13,6 +13,13 @@ Book::Book(std::string bookName, const std::vector<std::string>& sheetNames)
   for (const std::string& sheet : sheetNames) AddSheet(sheet);
 }
 
+std::vector<MacroModulePointer> Book::Modules() const {
+  std::vector<MacroModulePointer> modules{macros.ofWorkbook};
+  for (const SheetPointer& sheet : sheets) modules.push_back(sheet->module);
+  modules.insert(modules.end(), macros.added.begin(), macros.added.end());
+  return modules;
+}
+
 SheetPointer Book::FindSheet(std::string_view sheetName) const {
   for (const SheetPointer& sheet : sheets) {
     if (automation::EqualText(sheet->name, sheetName)) return sheet;
@@ -35,6 +42,9 @@ SheetPointer Book::AddSheet(const std::string& sheetName, const SheetPointer& be
   auto sheet = std::make_shared<Sheet>();
   sheet->book = this;
   sheet->name = sheetName;
+  sheet->module = std::make_shared<MacroModule>();
+  sheet->module->name = FreeModuleName(Modules(), "Sheet");
+  sheet->module->kind = ModuleKind::Document;
   sheets.insert(std::find(sheets.begin(), sheets.end(), before), sheet);
   return sheet;
 }
@@ -51,6 +61,7 @@ void Book::RemoveSheet(const SheetPointer& sheet) {
   const auto after = sheets.erase(place);
   if (active == sheet) active = after == sheets.end() ? sheets.back() : *after;
   sheet->deleted = true;
+  sheet->module->removed = true;
   sheet->grid = {};
 }
 

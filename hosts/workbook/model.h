@@ -12,9 +12,12 @@
 #include "hosts/workbook/call_log.h"
 #include "hosts/workbook/conditional_format.h"
 #include "hosts/workbook/defined_names.h"
+#include "hosts/workbook/document_property.h"
 #include "hosts/workbook/grid.h"
 #include "hosts/workbook/international.h"
 #include "hosts/workbook/lines.h"
+#include "hosts/workbook/macro_project.h"
+#include "hosts/workbook/menus.h"
 #include "hosts/workbook/validation_rule.h"
 
 namespace rangewerks::hosts::workbook {
@@ -37,6 +40,7 @@ struct Sheet {
   AreaValues<ColumnWidth> widths;
   ValidationRules validation;
   ConditionalFormatList conditionalFormats;
+  MacroModulePointer module;  ///< its code, which goes with it
   Area selection{1, 1};
   bool shapeSelected = false;  ///< instead of cells
   bool deleted = false;        ///< those who still hold it are refused everything
@@ -52,8 +56,12 @@ struct Book {
   std::vector<SheetPointer> sheets;
   SheetPointer active;
   DefinedNames names;
+  MacroProject macros;
+  DocumentPropertyList properties;
   std::weak_ptr<automation::Dispatch> face;
 
+  /// The code modules: the workbook's, those of the sheets in their order, those added.
+  std::vector<MacroModulePointer> Modules() const;
   /// The sheet of that name without regard to case, or null.
   SheetPointer FindSheet(std::string_view sheetName) const;
   /// Adds a sheet ahead of another one, or at the end. Raises 1004 for a name that it can't have.
@@ -73,6 +81,7 @@ struct Session {
   International international;
   std::string version = "16.0";
   bool trustsMacroProject = false;
+  Menus menus;
   std::vector<std::unique_ptr<Book>> books;  ///< never shrinks: objects point into it
   Book* active = nullptr;
   std::weak_ptr<automation::Dispatch> face;

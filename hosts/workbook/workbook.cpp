@@ -3,9 +3,11 @@
 #include <filesystem>
 
 #include "hosts/workbook/application.h"
+#include "hosts/workbook/document_properties.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/sheets.h"
+#include "hosts/workbook/vb_project.h"
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {
@@ -36,7 +38,9 @@ const MemberTable& Workbook::Members() const {
           .Get(9, "Parent", &Workbook::GetApplication, "The application.")
           .Method(10, "Activate", &Workbook::Activate, {}, "Brings the workbook to the front.")
           .Get(11, "VBProject", &Workbook::GetVBProject,
-               "The macro project; refused until access to it is trusted.");
+               "The macro project; refused until access to it is trusted.")
+          .Get(12, "CustomDocumentProperties", &Workbook::GetCustomDocumentProperties,
+               {Optional("Index")}, "All custom document properties, or one of them.");
   return table;
 }
 
@@ -63,7 +67,12 @@ Variant Workbook::GetVBProject() const {
   if (!Shared()->trustsMacroProject) {
     Refuse("Programmatic access to Visual Basic Project is not trusted");
   }
-  throw automation::Error(automation::ErrorNumber::MemberNotFound);  // there are no macros here
+  return std::make_shared<VBProject>(Shared(), book_);
+}
+
+Variant Workbook::GetCustomDocumentProperties(const Variant& index) const {
+  const auto properties = std::make_shared<DocumentProperties>(Shared(), book_);
+  return index.IsMissing() ? Variant(properties) : properties->GetItem(index);
 }
 
 void Workbook::Activate() { Shared()->active = book_; }

@@ -23,6 +23,7 @@ class Workbook final : public ModelObject {
   Variant GetActiveSheet() const;
   Variant GetApplication() const;
   Variant GetVBProject() const;
+  Variant GetCustomDocumentProperties(const Variant& index) const;
   void Activate();
 
   Book* book_;

@@ -30,12 +30,18 @@ class HostUnderTest {
   /// Defines a name for all sheets whose content is no reference, such as "=12.5".
   virtual void DefineConstant(const automation::Object& workbook, const std::string& name,
                               const std::string& content) = 0;
+  /// Gives access to the macro projects of workbooks, where a host asks for trust first.
+  virtual void TrustMacros() {}
 };
 
 /// A host by the name that test reports show.
 struct HostFactory {
   std::string name;
   std::function<std::unique_ptr<HostUnderTest>()> make;
+  // What docs/hosts.md tells of hosts that can't do everything.
+  bool hasMacros = true;
+  bool hasMenus = true;
+  bool hasDocumentProperties = true;
 };
 
 }  // namespace rangewerks::tests

@@ -55,7 +55,10 @@ Office& SharedOffice() {
 }
 
 HostFactory LibreOfficeHost() {
-  return {"LibreOffice", [] { return std::make_unique<LibreOfficeUnderTest>(); }};
+  HostFactory host{"LibreOffice", [] { return std::make_unique<LibreOfficeUnderTest>(); }};
+  host.hasMacros = false;
+  host.hasMenus = false;
+  return host;
 }
 
 }  // namespace rangewerks::tests

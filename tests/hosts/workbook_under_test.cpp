@@ -27,6 +27,7 @@ class WorkbookUnderTest final : public HostUnderTest {
                       const std::string& content) override {
     host_.DefineConstant(workbook, name, content);
   }
+  void TrustMacros() override { host_.TrustVBProject(true); }
 
  private:
   hosts::workbook::Host host_;

@@ -59,6 +59,7 @@ class SheetHostUnderTest final : public HostUnderTest {
                       const std::string& content) override {
     AddName(GetObject(workbook, "Names"), name, content);
   }
+  void TrustMacros() override { Let(testing_, "TrustVBProject", true); }
 
  private:
   const Object application_ = NewSheetHost();
