@@ -44,30 +44,32 @@ TEST(Win32ColourDialog, NoColourIsPresetEvenAfterOneWasChosen) {
   EXPECT_EQ(ShowColourDialog(nullptr), 0);
 }
 
+COLORREF FirstMixedColour(HWND dialog) {
+  const HWND colours = GetDlgItem(dialog, kMixedColours);
+  const HDC device = GetDC(colours);
+  const COLORREF colour = GetPixel(device, 8, 8);
+  ReleaseDC(colours, device);
+  return colour;
+}
+
 TEST(Win32ColourDialog, ColoursThatThePersonMixedAreOfferedAgain) {
-  const auto firstMixedColour = [](HWND dialog) {
-    const HWND colours = GetDlgItem(dialog, kMixedColours);
-    const HDC device = GetDC(colours);
-    const COLORREF colour = GetPixel(device, 8, 8);
-    ReleaseDC(colours, device);
-    return colour;
-  };
   {
-    const Person person([&](HWND dialog) {
+    const Person person([](HWND dialog) {
       Mix(dialog);
       SendMessageW(GetDlgItem(dialog, kKeep), BM_CLICK, 0, 0);
       Press(dialog, IDCANCEL);
     });
     ShowColourDialog(nullptr);
   }
-  COLORREF offered = 0;
-  const Person person([&](HWND dialog) {
-    UpdateWindow(GetDlgItem(dialog, kMixedColours));
-    offered = firstMixedColour(dialog);
-    Press(dialog, IDCANCEL);
-  });
-  ShowColourDialog(nullptr);
-  EXPECT_EQ(offered, 0x302010U);
+  bool offered = false;
+  {
+    const Person person([&](HWND dialog) {
+      offered = WaitUntil([&] { return FirstMixedColour(dialog) == 0x302010; });
+      Press(dialog, IDCANCEL);
+    });
+    ShowColourDialog(nullptr);
+  }
+  EXPECT_TRUE(offered);
 }
 
 }  // namespace

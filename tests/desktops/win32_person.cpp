@@ -9,17 +9,6 @@ namespace rangewerks::tests {
 
 namespace {
 
-/// Tries until it holds, for at most a quarter of a minute.
-template <class Condition>
-bool Wait(const Condition& condition) {
-  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(15);
-  while (!condition()) {
-    if (std::chrono::steady_clock::now() > end) return false;
-    std::this_thread::sleep_for(std::chrono::milliseconds(10));
-  }
-  return true;
-}
-
 struct Search {
   HWND owner = nullptr;
   HWND found = nullptr;
@@ -40,9 +29,18 @@ BOOL CALLBACK Consider(HWND window, LPARAM parameter) {
 
 }  // namespace
 
+bool WaitUntil(const std::function<bool()>& condition) {
+  const auto end = std::chrono::steady_clock::now() + std::chrono::seconds(15);
+  while (!condition()) {
+    if (std::chrono::steady_clock::now() > end) return false;
+    std::this_thread::sleep_for(std::chrono::milliseconds(10));
+  }
+  return true;
+}
+
 HWND WaitForDialog(HWND owner) {
   Search search{.owner = owner};
-  Wait([&] {
+  WaitUntil([&] {
     EnumWindows(Consider, reinterpret_cast<LPARAM>(&search));
     return search.found != nullptr;
   });
@@ -60,14 +58,14 @@ Person::Person(std::function<void(HWND dialog)> act)
       }) {}
 
 void Press(HWND dialog, int id) {
-  EXPECT_TRUE(Wait([&] { return IsWindowEnabled(GetDlgItem(dialog, id)) != 0; })) << id;
+  EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(GetDlgItem(dialog, id)) != 0; })) << id;
   PostMessageW(GetDlgItem(dialog, id), BM_CLICK, 0, 0);
 }
 
 void TypeKey(HWND dialog, WPARAM key) {
   GUITHREADINFO state{};
   state.cbSize = sizeof(state);
-  EXPECT_TRUE(Wait([&] {
+  EXPECT_TRUE(WaitUntil([&] {
     GetGUIThreadInfo(GetWindowThreadProcessId(dialog, nullptr), &state);
     return IsChild(dialog, state.hwndFocus) != 0;
   }));

@@ -25,6 +25,9 @@ class Person {
   std::thread thread_;
 };
 
+/// Tries until it holds. False when it still doesn't after a quarter of a minute.
+bool WaitUntil(const std::function<bool()>& condition);
+
 /// The dialog that this program shows in front of `owner`, once there is one; null after a quarter
 /// of a minute. Without an owner, any dialog.
 HWND WaitForDialog(HWND owner = nullptr);
