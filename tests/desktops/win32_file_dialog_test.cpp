@@ -6,6 +6,7 @@
 #include <fstream>
 #include <optional>
 #include <string>
+#include <system_error>
 #include <vector>
 
 #include "desktops/win32/dialogs.h"
@@ -21,14 +22,14 @@ using desktops::ShowFolderDialog;
 constexpr int kName = 0x47C;
 constexpr int kFilters = 0x470;
 
-/// A folder of this program with one file, "liste.def".
+/// A folder of its own with one file, "liste.def".
 class Win32FileDialog : public testing::Test {
  protected:
-  Win32FileDialog() {
-    std::filesystem::create_directory(folder_);
-    std::ofstream(folder_ / "liste.def") << "x";
+  Win32FileDialog() : folder_(NewFolder()) { std::ofstream(folder_ / "liste.def") << "x"; }
+  ~Win32FileDialog() override {
+    std::error_code ignored;
+    std::filesystem::remove_all(folder_, ignored);
   }
-  ~Win32FileDialog() override { std::filesystem::remove_all(folder_); }
 
   std::wstring Path(const std::wstring& name) const { return (folder_ / name).wstring(); }
   static std::string Utf8(const std::wstring& path) {
@@ -38,8 +39,16 @@ class Win32FileDialog : public testing::Test {
   const std::filesystem::path& Folder() const { return folder_; }
 
  private:
-  std::filesystem::path folder_ = std::filesystem::temp_directory_path() /
-                                  (L"Prüfung € " + std::to_wstring(GetCurrentProcessId()));
+  /// Other programs that run now share the disk, and may have the same process number.
+  static std::filesystem::path NewFolder() {
+    for (int number = 1;; ++number) {
+      const auto folder =
+          std::filesystem::temp_directory_path() / (L"Prüfung € " + std::to_wstring(number));
+      if (std::filesystem::create_directory(folder)) return folder;
+    }
+  }
+
+  std::filesystem::path folder_;
 };
 
 TEST_F(Win32FileDialog, OpeningReturnsTheFullPathOfTheFile) {
