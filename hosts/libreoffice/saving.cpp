@@ -9,6 +9,7 @@
 #include "automation/text.h"
 #include "hosts/libreoffice/documents.h"
 #include "hosts/libreoffice/failure.h"
+#include "hosts/libreoffice/modules_for_excel.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {
@@ -33,6 +34,19 @@ OUString FilterFor(const fs::path& path) {
     }
   }
   Fail(path.string() + " can't be written: its extension is none of xlsx, xlsm, xls and ods.");
+}
+
+bool IsExcelMacroFile(const fs::path& path) {
+  const std::string extension = path.extension().string();
+  return automation::EqualText(extension, ".xlsm") || automation::EqualText(extension, ".xls");
+}
+
+/// Carries out the storing itself, into a file of the kind that `path` is of.
+template <class Store>
+void StoreModulesToo(Book& book, const fs::path& path, const Store& store) {
+  if (!IsExcelMacroFile(path)) return store();
+  const ModulesForExcelFile prepared(book);
+  store();
 }
 
 /// A file beside the one that is wanted; removed unless it takes that one's place.
@@ -81,8 +95,10 @@ void SaveDocumentCopy(Book& book, const std::string& path) {
       {ToUno("FilterName"), -1, Any(filter), css::beans::PropertyState_DIRECT_VALUE},
       {ToUno("Overwrite"), -1, Any(true), css::beans::PropertyState_DIRECT_VALUE}};
   try {
-    As<css::frame::XStorable>(book.Model())
-        ->storeToURL(UrlOf(aside.Path().string()), ToSequence(options));
+    StoreModulesToo(book, target, [&] {
+      As<css::frame::XStorable>(book.Model())
+          ->storeToURL(UrlOf(aside.Path().string()), ToSequence(options));
+    });
   } catch (const css::lang::DisposedException&) {
     throw;
   } catch (const css::uno::Exception& failure) {
@@ -95,7 +111,7 @@ void SaveDocument(Book& book) {
   const auto storable = As<css::frame::XStorable>(book.Model());
   if (book.Path().empty()) Fail("Workbook \"" + book.Name() + "\" has no file to be saved to");
   if (storable->isReadonly()) Fail(book.Path() + " is open for reading only");
-  storable->store();
+  StoreModulesToo(book, book.Path(), [&] { storable->store(); });
 }
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -27,8 +27,8 @@ constexpr std::int64_t kSecondsOfHour = 60 * kSecondsOfMinute;
 constexpr std::int64_t kSecondsOfDay = 24 * kSecondsOfHour;
 
 Date FromOffice(const css::util::DateTime& time) {
-  const double seconds = static_cast<double>(time.Hours * kSecondsOfHour +
-                                             time.Minutes * kSecondsOfMinute + time.Seconds);
+  const auto seconds = static_cast<double>(time.Hours * kSecondsOfHour +
+                                           time.Minutes * kSecondsOfMinute + time.Seconds);
   return {automation::DateOf(time.Year, time.Month, time.Day).serial +
           seconds / static_cast<double>(kSecondsOfDay)};
 }

@@ -5,6 +5,7 @@
 #include "hosts/libreoffice/application.h"
 #include "hosts/libreoffice/document_properties.h"
 #include "hosts/libreoffice/documents.h"
+#include "hosts/libreoffice/vb_project.h"
 #include "hosts/libreoffice/worksheet.h"
 
 namespace rangewerks::hosts::libreoffice {
@@ -34,7 +35,8 @@ const MemberTable& Workbook::Members() const {
           .Method(12, "Close", &Workbook::Close, {Optional("SaveChanges")},
                   "Closes without saving.")
           .Get(13, "CustomDocumentProperties", &Workbook::GetCustomDocumentProperties,
-               {Optional("Index")}, "The document's own properties, or one of them.");
+               {Optional("Index")}, "The document's own properties, or one of them.")
+          .Get(14, "VBProject", &Workbook::GetVBProject, "The macro modules.");
   return table;
 }
 
@@ -58,6 +60,7 @@ Variant Workbook::GetApplication() const { return Application::Of(Office()); }
 Variant Workbook::GetCustomDocumentProperties(const Variant& index) const {
   return Element<DocumentProperties>(index, Office(), book_);
 }
+Variant Workbook::GetVBProject() const { return std::make_shared<VBProject>(Office(), book_); }
 void Workbook::Activate() { Office()->Activate(book_); }
 void Workbook::SaveCopyAs(const Variant& path) { SaveDocumentCopy(*book_, TextArgument(path)); }
 

@@ -32,6 +32,7 @@ class Workbook final : public HostObject {
   Variant GetActiveSheet() const;
   Variant GetApplication() const;
   Variant GetCustomDocumentProperties(const Variant& index) const;
+  Variant GetVBProject() const;
   void Activate();
   void SaveCopyAs(const Variant& path);
   void Close(const Variant& saveChanges);
