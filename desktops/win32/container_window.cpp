@@ -20,12 +20,13 @@ void PanelWindow::Erase(HDC target) const {
   FillRect(target, &all, Around().brushes.Get(Ground()));
 }
 
-// The box is the first window on the frame, so that an access key in its caption leads to the first
-// control.
+// The box is transparent, and below what stands on the frame: it paints its border and caption
+// only.
 FrameWindow::FrameWindow(Surroundings& around, forms::Control& frame, HWND parent, int id)
     : PanelWindow(around, frame, parent, id),
-      box_(CreateWindowExW(0, L"Button", nullptr, WS_CHILD | WS_VISIBLE | WS_GROUP | BS_GROUPBOX, 0,
-                           0, 0, 0, Handle(), nullptr, ThisModule(), nullptr)) {
+      box_(CreateWindowExW(WS_EX_TRANSPARENT, L"Button", nullptr,
+                           WS_CHILD | WS_VISIBLE | WS_GROUP | BS_GROUPBOX, 0, 0, 0, 0, Handle(),
+                           nullptr, ThisModule(), nullptr)) {
   if (box_ == nullptr) throw WindowRefused();
   around.owners[box_] = this;
 }
