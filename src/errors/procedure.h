@@ -41,6 +41,10 @@ class Line {
 [[noreturn]] void PassOn(const automation::Error& error, std::string_view literal,
                          std::int32_t line, std::string_view trailing = {});
 
+/// The same with nothing behind the literal; the line still goes in front of the source.
+[[noreturn]] void PassOnWithoutLine(const automation::Error& error, std::string_view literal,
+                                    std::int32_t line);
+
 /// Runs the body of a procedure and returns what it returns. `literal` is the procedure's fixed
 /// text, up to "Line#:". `trailing` gives the text that stands behind the line; it is asked only
 /// when something fails.
@@ -52,6 +56,18 @@ auto ProcedureWith(const Trailing& trailing, std::string_view literal, Body&& bo
     return body(line);
   } catch (const automation::Error& error) {
     PassOn(error, literal, line.Reached(), trailing());
+  }
+}
+
+/// The same for a procedure whose text has no line behind it.
+template <class Body>
+auto ProcedureWithoutLine(std::string_view literal, Body&& body,
+                          std::int32_t start = __builtin_LINE()) {
+  Line line(start);
+  try {
+    return body(line);
+  } catch (const automation::Error& error) {
+    PassOnWithoutLine(error, literal, line.Reached());
   }
 }
 

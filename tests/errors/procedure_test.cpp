@@ -53,6 +53,16 @@ TEST(Procedure, ReportsLineZeroWithoutAPrefixBeforeTheFirstMark) {
   EXPECT_EQ(Failure(Innermost, 0).Source(), "Innermost of Class Module T Line#:0");
 }
 
+TEST(Procedure, CanHaveATextWithoutItsLine) {
+  const Error error = ErrorOf([] {
+    ProcedureWithoutLine("Bare of Class Module T", [](Line& at) {
+      at();
+      throw Error(ErrorNumber::TypeMismatch);
+    });
+  });
+  EXPECT_EQ(error.Source(), "Line No.: 1 Bare of Class Module T");
+}
+
 TEST(Procedure, RepeatsTheLinePrefixAtEveryLevelInnermostLast) {
   EXPECT_EQ(Failure(Outermost, 2).Source(),
             "Line No.: 1 Line No.: 1 Line No.: 5 Innermost of Class Module T Line#:5\r\n"
