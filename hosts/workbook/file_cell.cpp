@@ -38,21 +38,6 @@ bool HasForm(std::string_view text, std::string_view form) {
   return true;
 }
 
-/// "2024-01-31" or "2024-01-31T13:45:00".
-automation::Date ReadDate(const JsonEntry& entry) {
-  const std::string text = entry.Text();
-  if (HasForm(text, "0000-00-00")) return ReadDay(entry, text);
-  if (HasForm(text, "0000-00-00T00:00:00")) {
-    const int hour = Digits(text, 11, 2);
-    const int minute = Digits(text, 14, 2);
-    const int second = Digits(text, 17, 2);
-    if (hour < 24 && minute < 60 && second < 60) {
-      return {ReadDay(entry, text).serial + (hour * 3600 + minute * 60 + second) / kSecondsOfDay};
-    }
-  }
-  entry.FailExpecting(R"(a date such as "2024-01-31" or "2024-01-31T13:45:00")");
-}
-
 bool IsExact(const JsonEntry::Json& number) {
   if (number.is_number_unsigned()) {
     return number.get<std::uint64_t>() <= std::uint64_t{kLargestExactInteger};
@@ -88,7 +73,7 @@ Variant ReadError(const JsonEntry& entry) {
 /// A value of any kind but a formula.
 Variant ReadValue(const JsonEntry& entry) {
   if (!entry.Value().is_object()) return ReadPlain(entry);
-  if (entry.Has("date")) return ReadDate(entry.At("date"));
+  if (entry.Has("date")) return ReadFileDate(entry.At("date"));
   if (entry.Has("error")) return ReadError(entry.At("error"));
   return ReadPlain(entry.At("value"));
 }
@@ -110,6 +95,20 @@ void RequireOneKind(const JsonEntry& entry) {
 }
 
 }  // namespace
+
+automation::Date ReadFileDate(const JsonEntry& entry) {
+  const std::string text = entry.Text();
+  if (HasForm(text, "0000-00-00")) return ReadDay(entry, text);
+  if (HasForm(text, "0000-00-00T00:00:00")) {
+    const int hour = Digits(text, 11, 2);
+    const int minute = Digits(text, 14, 2);
+    const int second = Digits(text, 17, 2);
+    if (hour < 24 && minute < 60 && second < 60) {
+      return {ReadDay(entry, text).serial + (hour * 3600 + minute * 60 + second) / kSecondsOfDay};
+    }
+  }
+  entry.FailExpecting(R"(a date such as "2024-01-31" or "2024-01-31T13:45:00")");
+}
 
 void ReadFileCell(const JsonEntry& entry, Cell& cell) {
   if (entry.Value().is_object()) {

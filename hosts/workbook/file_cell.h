@@ -12,4 +12,7 @@ namespace rangewerks::hosts::workbook {
 /// exactly.
 void ReadFileCell(const JsonEntry& entry, Cell& cell);
 
+/// Reads "2024-01-31" or "2024-01-31T13:45:00". Raises 1004 with the place for anything else.
+automation::Date ReadFileDate(const JsonEntry& entry);
+
 }  // namespace rangewerks::hosts::workbook

@@ -10,6 +10,8 @@
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/file_cell.h"
 #include "hosts/workbook/file_locale.h"
+#include "hosts/workbook/file_macros.h"
+#include "hosts/workbook/file_properties.h"
 #include "hosts/workbook/json_entry.h"
 #include "hosts/workbook/name.h"
 #include "hosts/workbook/sheet_formats_reading.h"
@@ -133,7 +135,7 @@ void ReadActiveSheet(Book& book, const JsonEntry& entry) {
 Book& ReadWorkbookFile(Session& session, const std::string& path) {
   const JsonEntry::File file(path, TextOfFile(path));
   const JsonEntry root = file.Root();
-  root.RequireKeys({"international", "sheets", "names", "active_sheet"});
+  root.RequireKeys({"international", "sheets", "names", "active_sheet", "modules", "properties"});
 
   auto book = std::make_unique<Book>();
   book->name = std::filesystem::path(path).filename().string();
@@ -144,6 +146,8 @@ Book& ReadWorkbookFile(Session& session, const std::string& path) {
   book->active = book->sheets.front();
   if (root.Has("active_sheet")) ReadActiveSheet(*book, root.At("active_sheet"));
   if (root.Has("names")) ReadNames(*book, root.At("names"));
+  if (root.Has("modules")) ReadFileModules(*book, root.At("modules"));
+  if (root.Has("properties")) book->properties = ReadFileProperties(root.At("properties"));
   InternationalFacts facts;
   if (root.Has("international")) facts = ReadInternational(root.At("international"));
 

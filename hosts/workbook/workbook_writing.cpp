@@ -7,6 +7,8 @@
 #include "hosts/common/cell_errors.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/file_locale.h"
+#include "hosts/workbook/file_macros.h"
+#include "hosts/workbook/file_properties.h"
 #include "hosts/workbook/sheet_formats_writing.h"
 
 namespace rangewerks::hosts::workbook {
@@ -91,6 +93,10 @@ Json JsonOfBook(const Session& session, const Book& book) {
   for (const SheetPointer& sheet : book.sheets) document["sheets"].push_back(JsonOfSheet(*sheet));
   if (book.names.Count() > 0) document["names"] = JsonOfNames(book.names);
   if (book.active) document["active_sheet"] = book.active->name;
+  if (Json modules = JsonOfModules(book); !modules.empty()) {
+    document["modules"] = std::move(modules);
+  }
+  if (!book.properties.empty()) document["properties"] = JsonOfProperties(book.properties);
   return document;
 }
 

@@ -159,7 +159,7 @@ TEST_F(WorkbookFile, ThatIsWrongIsToldByPlaceFoundAndExpected) {
       {R"({"sheets": []})", "/sheets: found an array of 0 entries, expected at least one sheet"},
       {R"({"sheets": [{"name": "a"}], "sheet": 1})",
        "/: found the key \"sheet\", expected only \"international\", \"sheets\", \"names\", "
-       "\"active_sheet\""},
+       "\"active_sheet\", \"modules\", \"properties\""},
       {R"({"sheets": [{"name": 5}]})", "/sheets/0/name: found 5, expected a text"},
       {R"({"sheets": [{"name": "a/b"}]})",
        "/sheets/0/name: A sheet can't be called \"a/b\": it holds the character \"/\""},
