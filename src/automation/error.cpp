@@ -26,6 +26,8 @@ const char* StandardText(std::int32_t number) {
       return "Invalid use of Null";
     case ErrorNumber::ObjectRequired:
       return "Object required";
+    case ErrorNumber::CannotCreateObject:
+      return "ActiveX component can't create object";
     case ErrorNumber::MemberNotFound:
       return "Object doesn't support this property or method";
     case ErrorNumber::NamedArgumentNotFound:

@@ -22,6 +22,7 @@ enum class ErrorNumber : std::int32_t {
   ObjectVariableNotSet = 91,
   InvalidUseOfNull = 94,
   ObjectRequired = 424,
+  CannotCreateObject = 429,
   MemberNotFound = 438,
   NamedArgumentNotFound = 448,
   ArgumentNotOptional = 449,

@@ -6,6 +6,7 @@
 #include <string>
 
 #include "automation/locale.h"
+#include "automation/object.h"
 #include "automation/variant.h"
 #include "platform/registry.h"
 
@@ -27,6 +28,9 @@ class System {
   virtual automation::Locale CurrentLocale() const = 0;
   /// The day and the time of the person's time zone, to the second.
   virtual automation::Date Now() const;
+  /// A new automation object of the class with that program identifier, such as
+  /// "Outlook.Application". Raises 429 when there is no such class here or it can't be started.
+  virtual automation::Object CreateObject(const std::string& progId) const = 0;
   /// Where the person's settings are kept.
   virtual std::shared_ptr<Registry> OpenRegistry() const = 0;
 };

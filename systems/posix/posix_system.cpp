@@ -10,6 +10,8 @@
 #include <vector>
 
 #include "automation/error.h"
+#include "automation/text.h"
+#include "systems/posix/desktop_mail.h"
 #include "systems/posix/file_registry.h"
 #include "systems/posix/locale_facts.h"
 
@@ -57,6 +59,13 @@ std::optional<std::string> PosixSystem::LoggedOnUser() const {
 }
 
 automation::Locale PosixSystem::CurrentLocale() const { return ReadLocale(); }
+
+automation::Object PosixSystem::CreateObject(const std::string& progId) const {
+  if (!automation::EqualText(progId, "Outlook.Application")) {
+    throw automation::Error(automation::ErrorNumber::CannotCreateObject);
+  }
+  return {std::make_shared<DesktopMail>()};
+}
 
 std::shared_ptr<platform::Registry> PosixSystem::OpenRegistry() const {
   return std::make_shared<FileRegistry>(FileRegistry::PersonsFile());

@@ -23,6 +23,8 @@ class PosixSystem final : public platform::System {
   /// has no say and isn't changed. The default Locale stands for the "C" locale, and for one that
   /// isn't installed.
   automation::Locale CurrentLocale() const override;
+  /// "Outlook.Application" is the desktop's mail program (see DesktopMail); others there are none.
+  automation::Object CreateObject(const std::string& progId) const override;
   /// A file of the person's (see FileRegistry).
   std::shared_ptr<platform::Registry> OpenRegistry() const override;
 };

@@ -54,6 +54,15 @@ std::string WindowsSystem::AccountName() const {
 
 automation::Locale WindowsSystem::CurrentLocale() const { return ReadLocale(nullptr); }
 
+automation::Object WindowsSystem::CreateObject(const std::string& progId) const {
+  try {
+    if (objectMaker_) return objectMaker_(progId);
+  } catch (const automation::Error&) {
+    // Callers know one failure of making an object, whatever the system's reason.
+  }
+  throw automation::Error(automation::ErrorNumber::CannotCreateObject);
+}
+
 std::shared_ptr<platform::Registry> WindowsSystem::OpenRegistry() const {
   return std::make_shared<WindowsRegistry>();
 }

@@ -1,11 +1,13 @@
 // A system that answers as a test tells it to.
 #pragma once
 
+#include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
 
+#include "automation/error.h"
 #include "platform/system.h"
 #include "support/memory_registry.h"
 
@@ -28,9 +30,19 @@ class FixedSystem final : public platform::System {
     ++timesAskedForNow_;
     return now_;
   }
+  /// Whatever was offered under that name; 429 for all others.
+  automation::Object CreateObject(const std::string& progId) const override {
+    const auto found = objects_.find(progId);
+    if (found == objects_.end())
+      throw automation::Error(automation::ErrorNumber::CannotCreateObject);
+    return found->second;
+  }
   /// One registry in memory for as long as this lives.
   std::shared_ptr<platform::Registry> OpenRegistry() const override { return registry_; }
 
+  void Offer(const std::string& progId, const automation::Object& object) {
+    objects_[progId] = object;
+  }
   void RunAs(const std::string& account) { account_ = account; }
   void SetNow(automation::Date now) { now_ = now; }
   const std::shared_ptr<MemoryRegistry>& Settings() const { return registry_; }
@@ -42,6 +54,7 @@ class FixedSystem final : public platform::System {
   std::optional<std::string> user_;
   std::string account_;
   automation::Date now_;
+  std::map<std::string, automation::Object> objects_;
   std::shared_ptr<MemoryRegistry> registry_ = std::make_shared<MemoryRegistry>();
   mutable int timesAskedForNow_ = 0;
   mutable int timesAskedForUser_ = 0;
