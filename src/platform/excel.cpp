@@ -25,6 +25,7 @@ const Member kCount{"Count"};
 const Member kCustomDocumentProperties{"CustomDocumentProperties"};
 const Member kDelete{"Delete"};
 const Member kEntireColumn{"EntireColumn"};
+const Member kEntireRow{"EntireRow"};
 const Member kFont{"Font"};
 const Member kFormatConditions{"FormatConditions"};
 const Member kFormula{"Formula"};
@@ -42,9 +43,11 @@ const Member kParent{"Parent"};
 const Member kRange{"Range"};
 const Member kRefersToRange{"RefersToRange"};
 const Member kResize{"Resize"};
+const Member kRow{"Row"};
 const Member kRows{"Rows"};
 const Member kShortcutMenus{"ShortcutMenus"};
 const Member kVBProject{"VBProject"};
+const Member kSelect{"Select"};
 const Member kValidation{"Validation"};
 const Member kValue{"Value"};
 const Member kWrapText{"WrapText"};
@@ -68,6 +71,9 @@ std::string Range::get_Address() const { return Text(Get(kAddress)); }
 Range Range::get_Resize(std::int32_t rows) const { return Typed<Range>(Get(kResize, {rows})); }
 Range Range::get_Offset(std::int32_t rows) const { return Typed<Range>(Get(kOffset, {rows})); }
 Range Range::get_EntireColumn() const { return Typed<Range>(Get(kEntireColumn)); }
+Range Range::get_EntireRow() const { return Typed<Range>(Get(kEntireRow)); }
+std::int32_t Range::get_Row() const { return Long(Get(kRow)); }
+void Range::Select() const { Call(kSelect); }
 Range Range::get_Rows() const { return Typed<Range>(Get(kRows)); }
 Range Range::get_Columns() const { return Typed<Range>(Get(kColumns)); }
 std::int32_t Range::get_Count() const { return Long(Get(kCount)); }

@@ -67,6 +67,11 @@ class Range : public Object {
   /// row 1.
   Range get_Offset(std::int32_t rows) const;
   Range get_EntireColumn() const;
+  Range get_EntireRow() const;
+  /// The number of the sheet's row that the first cell lies in, from 1.
+  std::int32_t get_Row() const;
+  /// Makes the cells the selection. Fails when their sheet isn't the one in front.
+  void Select() const;
   Range get_Rows() const;
   Range get_Columns() const;
   /// The number of elements: of rows behind get_Rows, of columns behind get_Columns.
