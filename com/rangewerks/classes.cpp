@@ -2,6 +2,7 @@
 #include <rangewerks.h>
 
 #include "automation/locale.h"
+#include "com/bridge/create_object.h"
 #include "com/rangewerks/interfaces.h"
 #include "com/server/server.h"
 #include "com/server/type_library.h"
@@ -18,7 +19,7 @@ namespace rangewerks::com {
 namespace {
 
 std::shared_ptr<const platform::System> TheSystem() {
-  static const auto system = std::make_shared<const systems::WindowsSystem>();
+  static const auto system = std::make_shared<const systems::WindowsSystem>(&CreateObject);
   return system;
 }
 

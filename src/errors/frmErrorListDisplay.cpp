@@ -12,7 +12,6 @@ namespace rangewerks {
 
 using automation::Member;
 using automation::Variant;
-using forms::Place;
 
 frmErrorListDisplay::frmErrorListDisplay(forms::Toolkit& toolkit,
                                          std::shared_ptr<ErrorMessageBox> box)

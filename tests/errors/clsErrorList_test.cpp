@@ -209,7 +209,7 @@ TEST_F(ErrorList, DisplayListShowsTheFormAboveAllOthersAndReturns) {
   EXPECT_THAT(desktop->Messages(), IsEmpty());
 }
 
-/// A desktop that can't keep a window above the others: the frame of its windows fails.
+/// A desktop that can't make windows.
 class DesktopWithoutWindows final : public desktops::HeadlessDesktop {
  public:
   std::shared_ptr<forms::FormWindow> MakeWindow(forms::Form& /*form*/) override {

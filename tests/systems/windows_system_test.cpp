@@ -9,6 +9,9 @@
 #include <vector>
 
 #include "automation/conversions.h"
+#include "automation/error.h"
+#include "automation/object.h"
+#include "support/error_of.h"
 #include "systems/windows/locale_facts.h"
 #include "systems/windows/user_name.h"
 
@@ -37,6 +40,26 @@ TEST(WindowsSystem, KnowsThePersonByTheNameOfTheAccount) {
   ASSERT_NE(GetUserNameA(account.data(), &size), 0);
   EXPECT_EQ(WindowsSystem().LoggedOnUser(), std::string(account.data()));
   EXPECT_EQ(WindowsSystem().AccountName(), account.data());
+}
+
+TEST(WindowsSystem, MakesObjectsAsItsMakerDoes) {
+  std::string asked;
+  const WindowsSystem system([&](const std::string& progId) {
+    asked = progId;
+    return automation::Object();
+  });
+  EXPECT_FALSE(system.CreateObject("Outlook.Application"));
+  EXPECT_EQ(asked, "Outlook.Application");
+}
+
+TEST(WindowsSystem, MakesNoObjectWithoutAMakerOrWhenItFails) {
+  EXPECT_EQ(ErrorOf([] { WindowsSystem().CreateObject("Any.Thing"); }).Number(), 429);
+  const WindowsSystem failing([](const std::string& /*progId*/) -> automation::Object {
+    throw automation::Error(1004, "Server", "busy");
+  });
+  const automation::Error error = ErrorOf([&] { failing.CreateObject("Any.Thing"); });
+  EXPECT_EQ(error.Number(), 429);
+  EXPECT_EQ(error.Description(), "ActiveX component can't create object");
 }
 
 /// What a call leaves in a buffer of 256 blanks.
