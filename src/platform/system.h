@@ -33,6 +33,11 @@ class System {
   virtual automation::Object CreateObject(const std::string& progId) const = 0;
   /// Where the person's settings are kept.
   virtual std::shared_ptr<Registry> OpenRegistry() const = 0;
+  /// Whether there is a file, not a folder, of that path.
+  virtual bool FileExists(const std::string& path) const = 0;
+  /// Starts a program, without arguments, in a window of its own and doesn't wait for it. Raises 53
+  /// when it can't be started.
+  virtual void StartProgram(const std::string& path) const = 0;
 };
 
 }  // namespace rangewerks::platform

@@ -2,6 +2,8 @@
 
 #include <dlfcn.h>
 #include <pwd.h>
+#include <spawn.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <cerrno>
@@ -69,6 +71,27 @@ automation::Object PosixSystem::CreateObject(const std::string& progId) const {
 
 std::shared_ptr<platform::Registry> PosixSystem::OpenRegistry() const {
   return std::make_shared<FileRegistry>(FileRegistry::PersonsFile());
+}
+
+bool PosixSystem::FileExists(const std::string& path) const {
+  std::error_code failure;
+  return std::filesystem::is_regular_file(path, failure);
+}
+
+void PosixSystem::StartProgram(const std::string& path) const {
+  // A shell that ends at once leaves the program to the system, so nobody has to wait for its end.
+  std::string shell = "sh";
+  std::string option = "-c";
+  std::string command = R"("$0" </dev/null >/dev/null 2>&1 &)";
+  std::string program = path;
+  char* const arguments[] = {shell.data(), option.data(), command.data(), program.data(), nullptr};
+  pid_t child = 0;
+  if (!FileExists(path) || access(path.c_str(), X_OK) != 0 ||
+      posix_spawn(&child, "/bin/sh", nullptr, nullptr, arguments, environ) != 0) {
+    throw automation::Error(automation::ErrorNumber::FileNotFound);
+  }
+  while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+  }
 }
 
 }  // namespace rangewerks::systems

@@ -27,6 +27,9 @@ class PosixSystem final : public platform::System {
   automation::Object CreateObject(const std::string& progId) const override;
   /// A file of the person's (see FileRegistry).
   std::shared_ptr<platform::Registry> OpenRegistry() const override;
+  bool FileExists(const std::string& path) const override;
+  /// Its input and output lead nowhere.
+  void StartProgram(const std::string& path) const override;
 };
 
 }  // namespace rangewerks::systems

@@ -30,8 +30,10 @@ std::wstring Widen(UINT codePage, std::string_view text) {
 
 std::string Utf8Of(std::wstring_view text) { return Narrow(CP_UTF8, text); }
 
+std::wstring Utf16Of(std::string_view utf8) { return Widen(CP_UTF8, utf8); }
+
 std::string Utf8OfAnsi(std::string_view text) { return Utf8Of(Widen(CP_ACP, text)); }
 
-std::string AnsiOf(std::string_view utf8) { return Narrow(CP_ACP, Widen(CP_UTF8, utf8)); }
+std::string AnsiOf(std::string_view utf8) { return Narrow(CP_ACP, Utf16Of(utf8)); }
 
 }  // namespace rangewerks::systems

@@ -7,6 +7,7 @@
 namespace rangewerks::systems {
 
 std::string Utf8Of(std::wstring_view text);
+std::wstring Utf16Of(std::string_view utf8);
 /// A text in the code page of the system (ANSI).
 std::string Utf8OfAnsi(std::string_view text);
 /// The other way: what the code page lacks becomes "?".

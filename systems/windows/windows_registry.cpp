@@ -17,7 +17,16 @@ HKEY RootOf(std::int32_t root) {
   return reinterpret_cast<HKEY>(static_cast<LONG_PTR>(root));
 }
 
-/// A key for as long as this lives; `call` is RegOpenKeyA or RegCreateKeyA.
+/// All that can be done to a key but to delete it and to change who may use it.
+constexpr REGSAM kFullAccess = KEY_QUERY_VALUE | KEY_SET_VALUE | KEY_CREATE_SUB_KEY |
+                               KEY_ENUMERATE_SUB_KEYS | KEY_NOTIFY | KEY_CREATE_LINK | READ_CONTROL;
+static_assert(kFullAccess == 0x2003F);
+
+LONG WINAPI OpenWithFullAccess(HKEY root, LPCSTR key, PHKEY opened) {
+  return RegOpenKeyExA(root, key, 0, kFullAccess, opened);
+}
+
+/// A key for as long as this lives; `call` is RegOpenKeyA, RegCreateKeyA or one of their kind.
 class Key {
  public:
   Key(decltype(RegOpenKeyA)& call, std::int32_t root, const std::string& key)
@@ -77,6 +86,22 @@ std::int32_t WindowsRegistry::Write(std::int32_t root, const std::string& key,
   }
   const std::string text = AnsiOf(std::get<std::string>(value));
   return set(REG_SZ, text.c_str(), text.size() + 1);
+}
+
+WindowsRegistry::RawReading WindowsRegistry::ReadWithFullAccess(std::int32_t root,
+                                                                const std::string& key,
+                                                                const std::string& name,
+                                                                std::size_t limit) const {
+  const Key open(OpenWithFullAccess, root, key);
+  if (open.Status() != ERROR_SUCCESS) return {.status = open.Status()};
+  std::string bytes(limit, '\0');
+  DWORD type = REG_NONE;
+  auto size = static_cast<DWORD>(limit);
+  const LONG status = RegQueryValueExA(open.Get(), AnsiOf(name).c_str(), nullptr, &type,
+                                       reinterpret_cast<BYTE*>(bytes.data()), &size);
+  if (status != ERROR_SUCCESS) return {.status = status};
+  bytes.resize(size);
+  return {kSuccess, type, type == REG_SZ ? Utf8OfAnsi(bytes) : bytes};
 }
 
 }  // namespace rangewerks::systems

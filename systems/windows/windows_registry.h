@@ -15,6 +15,8 @@ class WindowsRegistry final : public platform::Registry {
   Reading Read(std::int32_t root, const std::string& key, const std::string& name) const override;
   std::int32_t Write(std::int32_t root, const std::string& key, const std::string& name,
                      const platform::RegistryValue& value) override;
+  RawReading ReadWithFullAccess(std::int32_t root, const std::string& key, const std::string& name,
+                                std::size_t limit) const override;
 };
 
 }  // namespace rangewerks::systems

@@ -67,4 +67,26 @@ std::shared_ptr<platform::Registry> WindowsSystem::OpenRegistry() const {
   return std::make_shared<WindowsRegistry>();
 }
 
+bool WindowsSystem::FileExists(const std::string& path) const {
+  const DWORD attributes = GetFileAttributesW(Utf16Of(path).c_str());
+  return attributes != INVALID_FILE_ATTRIBUTES && (attributes & FILE_ATTRIBUTE_DIRECTORY) == 0;
+}
+
+void WindowsSystem::StartProgram(const std::string& path) const {
+  STARTUPINFOW start{};
+  start.cb = sizeof start;
+  start.dwFlags = STARTF_USESHOWWINDOW;
+  start.wShowWindow = SW_SHOWNORMAL;
+  PROCESS_INFORMATION started{};
+  const std::wstring program = Utf16Of(path);
+  // Quoted, so that a blank within the path isn't taken for the end of the program's name.
+  std::wstring commandLine = L'"' + program + L'"';
+  if (CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr,
+                     nullptr, &start, &started) == 0) {
+    throw automation::Error(automation::ErrorNumber::FileNotFound);
+  }
+  CloseHandle(started.hThread);
+  CloseHandle(started.hProcess);
+}
+
 }  // namespace rangewerks::systems

@@ -34,6 +34,8 @@ class WindowsSystem final : public platform::System {
   /// What the maker makes; any failure of it is 429.
   automation::Object CreateObject(const std::string& progId) const override;
   std::shared_ptr<platform::Registry> OpenRegistry() const override;
+  bool FileExists(const std::string& path) const override;
+  void StartProgram(const std::string& path) const override;
 
  private:
   ObjectMaker objectMaker_;

@@ -1,11 +1,13 @@
 // A system that answers as a test tells it to.
 #pragma once
 
+#include <algorithm>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "automation/error.h"
 #include "platform/system.h"
@@ -43,6 +45,18 @@ class FixedSystem final : public platform::System {
   void Offer(const std::string& progId, const automation::Object& object) {
     objects_[progId] = object;
   }
+  bool FileExists(const std::string& path) const override {
+    return std::find(files_.begin(), files_.end(), path) != files_.end();
+  }
+  void StartProgram(const std::string& path) const override {
+    started_.push_back(path);
+    if (!FileExists(path)) throw automation::Error(automation::ErrorNumber::FileNotFound);
+  }
+
+  /// Files that are there; programs can be started from them alone.
+  void AddFile(const std::string& path) { files_.push_back(path); }
+  /// What was to be started, in vain or not.
+  const std::vector<std::string>& Started() const { return started_; }
   void RunAs(const std::string& account) { account_ = account; }
   void SetNow(automation::Date now) { now_ = now; }
   const std::shared_ptr<MemoryRegistry>& Settings() const { return registry_; }
@@ -56,6 +70,8 @@ class FixedSystem final : public platform::System {
   automation::Date now_;
   std::map<std::string, automation::Object> objects_;
   std::shared_ptr<MemoryRegistry> registry_ = std::make_shared<MemoryRegistry>();
+  std::vector<std::string> files_;
+  mutable std::vector<std::string> started_;
   mutable int timesAskedForNow_ = 0;
   mutable int timesAskedForUser_ = 0;
 };

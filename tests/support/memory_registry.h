@@ -28,7 +28,20 @@ class MemoryRegistry final : public platform::Registry {
     if (status_ == kSuccess) values_[PlaceOf(root, key, name)] = value;
     return status_;
   }
+  RawReading ReadWithFullAccess(std::int32_t root, const std::string& key, const std::string& name,
+                                std::size_t limit) const override {
+    reads_.push_back(key + "|" + name);
+    const auto found = raw_.find(PlaceOf(root, key, name));
+    if (found == raw_.end()) return {};
+    if (found->second.bytes.size() > limit) return {.status = kMoreData};
+    return found->second;
+  }
 
+  /// A value as the system stores it, which only ReadWithFullAccess finds.
+  void PutRaw(std::int32_t root, const std::string& key, const std::string& name,
+              std::uint32_t type, const std::string& bytes) {
+    raw_[PlaceOf(root, key, name)] = {kSuccess, type, bytes};
+  }
   /// A value of a type that is neither text nor number.
   void PutOfAnotherType(const std::string& key, const std::string& name) {
     values_[PlaceOf(kCurrentUser, key, name)] = std::nullopt;
@@ -48,6 +61,8 @@ class MemoryRegistry final : public platform::Registry {
  private:
   using Place = std::tuple<std::int32_t, std::string, std::string>;
 
+  static constexpr std::int32_t kMoreData = 234;
+
   static Place PlaceOf(std::int32_t root, const std::string& key, const std::string& name) {
     std::string parts;
     for (const char c : key + '\\') {
@@ -57,6 +72,7 @@ class MemoryRegistry final : public platform::Registry {
   }
 
   std::map<Place, std::optional<Value>> values_;
+  std::map<Place, RawReading> raw_;
   mutable std::vector<std::string> reads_;
   std::vector<std::string> writes_;
   std::int32_t status_ = kSuccess;

@@ -121,9 +121,11 @@ TEST_F(FileRegistryTest, WhatAnotherProgramWroteIsSeenAtOnce) {
 }
 
 TEST_F(FileRegistryTest, RootsOtherThanThePersonsHaveNoValuesAndTakeNone) {
-  const auto machine = static_cast<std::int32_t>(0x80000002U);
+  const auto machine = platform::Registry::kLocalMachine;
   Write("value", 1);
   EXPECT_FALSE(registry.Read(machine, "key", "value").value);
+  EXPECT_EQ(registry.ReadWithFullAccess(machine, "key", "value", 100).status,
+            platform::Registry::kNotFound);
   EXPECT_EQ(registry.Write(machine, "key", "value", 2), EACCES);
   EXPECT_EQ(Value("value"), RegistryValue(1));
 }

@@ -6,13 +6,16 @@
 #include <chrono>
 #include <cstdlib>
 #include <filesystem>
+#include <fstream>
 #include <optional>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "automation/conversions.h"
+#include "hosts/temporary_folder.h"
 #include "support/environment.h"
+#include "support/error_of.h"
 #include "systems/posix/locale_facts.h"
 
 /// The C library's newlocale doesn't free its copy of LOCPATH, which only these tests set.
@@ -56,6 +59,47 @@ TEST(PosixSystem, NamesTheProgramThatItIsLinkedInto) {
 
 TEST(PosixSystem, RunsUnderTheAccountOfThePersonWhoLoggedOn) {
   EXPECT_EQ(PosixSystem().AccountName(), PosixSystem().LoggedOnUser());
+}
+
+/// A program that leaves the file "ran" beside itself, with the number of its arguments in it.
+class StartedProgram : public ::testing::Test {
+ protected:
+  void SetUp() override {
+    folder.Write("a program",
+                 "#!/bin/sh\n"
+                 "cd \"$(dirname \"$0\")\" && printf '%s' \"$#\" >written && mv written ran\n");
+    std::filesystem::permissions(program, std::filesystem::perms::owner_all);
+  }
+
+  TemporaryFolder folder;
+  const std::string program = folder.File("a program");
+  const std::string ran = folder.File("ran");
+};
+
+TEST_F(StartedProgram, RunsWithoutArguments) {
+  PosixSystem().StartProgram(program);
+  for (int i = 0; i < 500 && !std::filesystem::exists(ran); ++i) usleep(10000);
+  std::string arguments;
+  std::ifstream(ran) >> arguments;
+  EXPECT_EQ(arguments, "0");
+}
+
+TEST_F(StartedProgram, MustBeAFileThatThePersonMayRun) {
+  const auto fails = [](const std::string& path) {
+    return ErrorOf([&] { PosixSystem().StartProgram(path); })
+        .Is(automation::ErrorNumber::FileNotFound);
+  };
+  EXPECT_TRUE(fails(folder.File("none")));
+  EXPECT_TRUE(fails(folder.File("")));
+  std::filesystem::permissions(program, std::filesystem::perms::owner_read);
+  EXPECT_TRUE(fails(program));
+}
+
+TEST_F(StartedProgram, ExistsAsAFileAndItsFolderDoesnt) {
+  EXPECT_TRUE(PosixSystem().FileExists(program));
+  EXPECT_FALSE(PosixSystem().FileExists(folder.File("")));
+  EXPECT_FALSE(PosixSystem().FileExists(folder.File("none")));
+  EXPECT_FALSE(PosixSystem().FileExists(""));
 }
 
 /// Days since 30 December 1899 in Greenwich.

@@ -123,6 +123,33 @@ TEST_F(WindowsRegistryTest, AKeyThatMayNotBeOpenedAnswersWithTheSystemsStatus) {
   EXPECT_EQ(registry.Write(0, "key", "value", 1), ERROR_INVALID_HANDLE);
 }
 
+TEST_F(WindowsRegistryTest, ReadsAValueOfAnyTypeWithAllItsBytes) {
+  const WindowsRegistry all;
+  Put(REG_SZ, std::string("te\0xt\0", 6));
+  auto reading = all.ReadWithFullAccess(kRoot, kTestKey, "value", 1024);
+  EXPECT_EQ(reading.status, ERROR_SUCCESS);
+  EXPECT_EQ(reading.type, REG_SZ);
+  EXPECT_EQ(reading.bytes, std::string("te\0xt\0", 6));
+  Put(REG_BINARY, "\xE4\1");
+  reading = all.ReadWithFullAccess(kRoot, kTestKey, "value", 1024);
+  EXPECT_EQ(reading.type, REG_BINARY);
+  EXPECT_EQ(reading.bytes, "\xE4\1");
+}
+
+TEST_F(WindowsRegistryTest, ReadsNoValueThatIsLongerThanTheLimit) {
+  const WindowsRegistry all;
+  Put(REG_SZ, "12345678");
+  EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey, "value", 8).bytes, "12345678");
+  EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey, "value", 7).status, ERROR_MORE_DATA);
+}
+
+TEST_F(WindowsRegistryTest, FindsNothingWithFullAccessWhereThereIsNothing) {
+  const WindowsRegistry all;
+  EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey, "none", 8).status, ERROR_FILE_NOT_FOUND);
+  EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey + "\\none", "value", 8).status,
+            ERROR_FILE_NOT_FOUND);
+}
+
 TEST_F(WindowsRegistryTest, IsWhatTheSystemKeepsSettingsIn) {
   const auto settings = systems::WindowsSystem().OpenRegistry();
   EXPECT_EQ(settings->Write(kRoot, kTestKey, "value", 5), ERROR_SUCCESS);

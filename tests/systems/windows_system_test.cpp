@@ -62,6 +62,25 @@ TEST(WindowsSystem, MakesNoObjectWithoutAMakerOrWhenItFails) {
   EXPECT_EQ(error.Description(), "ActiveX component can't create object");
 }
 
+TEST(WindowsSystem, TellsFilesFromFoldersAndFromNothing) {
+  const WindowsSystem system;
+  EXPECT_TRUE(system.FileExists(system.LibraryFile()));
+  EXPECT_FALSE(
+      system.FileExists(std::filesystem::path(system.LibraryFile()).parent_path().string()));
+  EXPECT_FALSE(system.FileExists("C:\\no such file"));
+  EXPECT_FALSE(system.FileExists(""));
+}
+
+TEST(WindowsSystem, StartsAProgramAndFailsWhenItCant) {
+  const WindowsSystem system;
+  EXPECT_NO_THROW(system.StartProgram("C:\\windows\\system32\\hostname.exe"));
+  for (const char* path : {"C:\\no such program.exe", "C:\\windows", ""}) {
+    EXPECT_TRUE(
+        ErrorOf([&] { system.StartProgram(path); }).Is(automation::ErrorNumber::FileNotFound))
+        << path;
+  }
+}
+
 /// What a call leaves in a buffer of 256 blanks.
 std::string BufferWith(std::string_view name) {
   std::string buffer(256, ' ');
