@@ -8,6 +8,7 @@
 #include "hosts/workbook/names.h"
 #include "hosts/workbook/sheets.h"
 #include "hosts/workbook/vb_project.h"
+#include "hosts/workbook/workbook_writing.h"
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {
@@ -40,7 +41,9 @@ const MemberTable& Workbook::Members() const {
           .Get(11, "VBProject", &Workbook::GetVBProject,
                "The macro project; refused until access to it is trusted.")
           .Get(12, "CustomDocumentProperties", &Workbook::GetCustomDocumentProperties,
-               {Optional("Index")}, "All custom document properties, or one of them.");
+               {Optional("Index")}, "All custom document properties, or one of them.")
+          .Method(13, "SaveCopyAs", &Workbook::SaveCopyAs, {"Filename"},
+                  "Writes a copy to a file; the workbook stays as it is.");
   return table;
 }
 
@@ -62,6 +65,10 @@ Variant Workbook::GetSheets(const Variant& index) const {
 
 Variant Workbook::GetActiveSheet() const { return Worksheet::Of(Shared(), book_->active); }
 Variant Workbook::GetApplication() const { return Application::Of(Shared()); }
+
+void Workbook::SaveCopyAs(const Variant& path) {
+  WriteWorkbookFile(*Shared(), *book_, TextArgument(path));
+}
 
 Variant Workbook::GetVBProject() const {
   if (!Shared()->trustsMacroProject) {

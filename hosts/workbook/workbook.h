@@ -25,6 +25,7 @@ class Workbook final : public ModelObject {
   Variant GetVBProject() const;
   Variant GetCustomDocumentProperties(const Variant& index) const;
   void Activate();
+  void SaveCopyAs(const Variant& path);
 
   Book* book_;
 };

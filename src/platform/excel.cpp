@@ -45,6 +45,7 @@ const Member kRefersToRange{"RefersToRange"};
 const Member kResize{"Resize"};
 const Member kRow{"Row"};
 const Member kRows{"Rows"};
+const Member kSaveCopyAs{"SaveCopyAs"};
 const Member kSelect{"Select"};
 const Member kShortcutMenus{"ShortcutMenus"};
 const Member kVBProject{"VBProject"};
@@ -61,6 +62,7 @@ Range Range::get_Cells(std::int32_t row, std::int32_t column) const {
 Variant Range::get_Value() const { return Get(kValue); }
 void Range::let_Value(const Variant& value) const { Let(kValue, value); }
 Variant Range::get_Default() const { return Get(Member::Default()); }
+void Range::let_Default(const Variant& value) const { Let(Member::Default(), value); }
 std::string Range::get_Formula() const { return Text(Get(kFormula)); }
 bool Range::get_HasFormula() const {
   const Variant result = Get(kHasFormula);
@@ -113,6 +115,7 @@ Range Worksheet::get_Range(const std::string& nameOrAddress) const {
 
 Application Workbook::get_Application() const { return Typed<Application>(Get(kApplication)); }
 Name Workbook::get_Names(const std::string& name) const { return Typed<Name>(Get(kNames, {name})); }
+void Workbook::SaveCopyAs(const std::string& file) const { Call(kSaveCopyAs, {file}); }
 VBProject Workbook::get_VBProject() const { return Typed<VBProject>(Get(kVBProject)); }
 DocumentProperties Workbook::get_CustomDocumentProperties() const {
   return Typed<DocumentProperties>(Get(kCustomDocumentProperties));

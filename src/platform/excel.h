@@ -52,6 +52,7 @@ class Range : public Object {
   void let_Value(const Variant& value) const;
   /// The default member without arguments, which is the value.
   Variant get_Default() const;
+  void let_Default(const Variant& value) const;
   /// The content as entered, as text.
   std::string get_Formula() const;
   /// Whether the cells hold formulas; a mixture (null) counts as false.
@@ -146,6 +147,8 @@ class Workbook : public Object {
   Application get_Application() const;
   /// The name of that text. Fails when there is none.
   Name get_Names(const std::string& name) const;
+  /// Writes a copy to a file; the workbook keeps its own name and its unsaved state.
+  void SaveCopyAs(const std::string& file) const;
   /// The macro project (excel_vba.h). Fails, as an answer, where access to macros isn't trusted.
   VBProject get_VBProject() const;
   /// The workbook's own properties (excel_document_properties.h).

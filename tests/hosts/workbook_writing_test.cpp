@@ -155,6 +155,15 @@ TEST_F(WorkbookWriting, KeepsAReferenceThatIsDead) {
   EXPECT_EQ(GetText(GetObject(read, "Names", {"lost"}), "RefersTo"), "=#REF!$A$1");
 }
 
+TEST_F(WorkbookWriting, SavesACopyForCallersByNameAndKeepsTheNameOfTheOpenWorkbook) {
+  const Object book = host_.AddWorkbook("Ledger", {"Sheet1"});
+  Let(GetObject(GetObject(book, "ActiveSheet"), "Range", {"A1"}), "Value", "posted");
+  Call(book, "SaveCopyAs", {File("copy.xls")});
+  EXPECT_EQ(GetText(book, "FullName"), "Ledger");
+  const Object copy = host_.Open(File("copy.xls"));
+  EXPECT_EQ(GetText(GetObject(GetObject(copy, "ActiveSheet"), "Range", {"A1"}), "Value"), "posted");
+}
+
 TEST_F(WorkbookWriting, SaysWhenTheFileCannotBeWritten) {
   const Object book = host_.AddWorkbook("Ledger", {"Sheet1"});
   const std::string path = File("nowhere/ledger.json");
