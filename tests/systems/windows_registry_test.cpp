@@ -138,7 +138,7 @@ TEST_F(WindowsRegistryTest, ReadsAValueOfAnyTypeWithAllItsBytes) {
 
 TEST_F(WindowsRegistryTest, ReadsNoValueThatIsLongerThanTheLimit) {
   const WindowsRegistry all;
-  Put(REG_SZ, "12345678");
+  Put(REG_BINARY, "12345678");
   EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey, "value", 8).bytes, "12345678");
   EXPECT_EQ(all.ReadWithFullAccess(kRoot, kTestKey, "value", 7).status, ERROR_MORE_DATA);
 }
