@@ -3,9 +3,14 @@
 
 #include "automation/locale.h"
 #include "com/bridge/create_object.h"
+#include "com/module/module.h"
 #include "com/rangewerks/interfaces.h"
 #include "com/server/server.h"
 #include "com/server/type_library.h"
+#include "desktops/unattended/unattended_desktop.h"
+#include "errors/ErrorMessageBox.h"
+#include "errors/clsErrorList.h"
+#include "errors/errL100Jrn.h"
 #include "model/clsExInputRange.h"
 #include "model/colExInputRangeList.h"
 #include "rangelist/ExcelFunctions.h"
@@ -23,14 +28,29 @@ std::shared_ptr<const platform::System> TheSystem() {
   return system;
 }
 
+/// Where forms are shown. A form that is open keeps the module.
+std::shared_ptr<forms::Toolkit> TheDesktop() {
+  static const auto desktop = [] {
+    auto made = std::make_shared<desktops::UnattendedDesktop>();
+    made->KeepWhileLoaded([] { return std::make_shared<ModuleLock>(); });
+    return made;
+  }();
+  return desktop;
+}
+
+std::shared_ptr<ErrorMessageBox> NewErrorMessageBox() {
+  return std::make_shared<ErrorMessageBox>(TheDesktop(), TheSystem());
+}
+
 /// The library converts by the locale of the person who has loaded it, and its classes appear with
 /// the interfaces of the type library.
 void Prepare() {
   automation::Locale::SetCurrent(TheSystem()->CurrentLocale());
   const Pointer<ITypeLib> library = ModuleTypeLibrary();
-  for (auto interfaceOf : {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface,
-                           GroupHeadingsInterface, RangeListInterface, ExcelFunctionsInterface,
-                           RangePropertiesInterface, ColumnStyleInterface, SaveSettingsInterface}) {
+  for (auto interfaceOf :
+       {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface, GroupHeadingsInterface,
+        RangeListInterface, ExcelFunctionsInterface, RangePropertiesInterface, ColumnStyleInterface,
+        SaveSettingsInterface, ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface}) {
     Publish(interfaceOf(), *library.Get());
   }
 }
@@ -68,6 +88,15 @@ const Server& TheServer() {
               {__uuidof(::ExcelFunctions), L"Rangewerks.ExcelFunctions",
                L"Rangewerks routines for sheets",
                [] { return Object(std::make_shared<ExcelFunctions>(TheSystem())); }},
+              {__uuidof(::ErrorMessageBox), L"Rangewerks.ErrorMessageBox",
+               L"Rangewerks error message box", [] { return Object(NewErrorMessageBox()); }},
+              {__uuidof(::errL100Jrn), L"Rangewerks.errL100Jrn",
+               L"Rangewerks object without members",
+               [] { return Object(std::make_shared<errL100Jrn>()); }},
+              {__uuidof(::clsErrorList), L"Rangewerks.clsErrorList", L"Rangewerks error list",
+               [] {
+                 return Object(std::make_shared<clsErrorList>(TheDesktop(), NewErrorMessageBox()));
+               }},
           },
       .hasTypeLibrary = true,
       .prepare = &Prepare,

@@ -15,5 +15,8 @@ DualInterface ExcelFunctionsInterface();
 DualInterface RangePropertiesInterface();
 DualInterface ColumnStyleInterface();
 DualInterface SaveSettingsInterface();
+DualInterface ErrorMessageBoxInterface();
+DualInterface ErrL100JrnInterface();
+DualInterface ErrorListInterface();
 
 }  // namespace rangewerks::com

@@ -59,6 +59,12 @@ constexpr std::array kClasses = {
                    "Rangewerks stored options"},
     PublishedClass{"{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}", "Rangewerks.ExcelFunctions",
                    "Rangewerks routines for sheets"},
+    PublishedClass{"{C4CEEC56-BC5B-42C9-8C97-0230704DA14B}", "Rangewerks.ErrorMessageBox",
+                   "Rangewerks error message box"},
+    PublishedClass{"{E36C2DB5-1A2D-4E2C-99EB-20A0667718AE}", "Rangewerks.errL100Jrn",
+                   "Rangewerks object without members"},
+    PublishedClass{"{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}", "Rangewerks.clsErrorList",
+                   "Rangewerks error list"},
 };
 struct PublishedInterface {
   const char* id;
@@ -75,10 +81,15 @@ constexpr std::array kDualInterfaces = {
     PublishedInterface{"{6FBAAE43-2DC4-4F27-BE34-B7889C69699A}", "_clsColumnStyle"},
     PublishedInterface{"{3A4DB0AA-7EBB-4E13-A369-6DF49B9FB418}", "_clsSaveSettings"},
     PublishedInterface{"{6A523BB4-D3E4-46FE-905B-2DBCFF546108}", "_ExcelFunctions"},
+    PublishedInterface{"{3C266930-6CEF-4557-BCF0-92E30A4AF202}", "_ErrorMessageBox"},
+    PublishedInterface{"{85A5D147-95E8-4A41-9E2F-1C9324A3ABC2}", "_errL100Jrn"},
+    PublishedInterface{"{C2CCE0EE-CCAD-44E1-A2CC-CB721992DAC1}", "_clsErrorList"},
 };
 constexpr const char* kEventsProxy = "{00020420-0000-0000-C000-000000000046}";
-constexpr PublishedInterface kEvents = {"{823CBCD1-3B30-4061-8544-84BB2F5E23F9}",
-                                        "__clsInterfaceRangeList"};
+constexpr std::array kEvents = {
+    PublishedInterface{"{823CBCD1-3B30-4061-8544-84BB2F5E23F9}", "__clsInterfaceRangeList"},
+    PublishedInterface{"{0BDE0CAB-B365-45FA-80F1-B3740D75BE69}", "__clsErrorList"},
+};
 
 /// Keys and values in the form of RegistrySandbox::ClassesOf.
 class Lines {
@@ -131,7 +142,7 @@ std::vector<std::string> Registered() {
     lines.Value(std::string(served.progId) + "\\CLSID", "", served.id);
   }
   for (const PublishedInterface& dual : kDualInterfaces) AddInterface(dual, kDualProxy, lines);
-  AddInterface(kEvents, kEventsProxy, lines);
+  for (const PublishedInterface& events : kEvents) AddInterface(events, kEventsProxy, lines);
   return lines.Sorted();
 }
 

@@ -23,11 +23,18 @@ using com::Pointer;
 
 /// What scripts call an object of each interface. A class that comes later gets its entry here.
 const std::map<std::string, std::string> kVariables = {
-    {"_clsInterfaceRangeList", "list"},    {"_clsExInputRange", "record"},
-    {"_colExInputRangeList", "records"},   {"_colGroupHeadings", "headings"},
-    {"_clsRangeGroupHeading", "heading"},  {"_ExcelFunctions", "functions"},
-    {"_clsRangeProperties", "properties"}, {"_clsColumnStyle", "style"},
+    {"_clsInterfaceRangeList", "list"},
+    {"_clsExInputRange", "record"},
+    {"_colExInputRangeList", "records"},
+    {"_colGroupHeadings", "headings"},
+    {"_clsRangeGroupHeading", "heading"},
+    {"_ExcelFunctions", "functions"},
+    {"_clsRangeProperties", "properties"},
+    {"_clsColumnStyle", "style"},
     {"_clsSaveSettings", "settings"},
+    {"_ErrorMessageBox", "box"},
+    {"_errL100Jrn", "marker"},
+    {"_clsErrorList", "errors"},
 };
 
 std::vector<std::string> LinesOfScripts() {

@@ -7,6 +7,10 @@
 #include <vector>
 
 #include "com/bridge/text.h"
+#include "desktops/unattended/unattended_desktop.h"
+#include "errors/ErrorMessageBox.h"
+#include "errors/clsErrorList.h"
+#include "errors/errL100Jrn.h"
 #include "model/clsExInputRange.h"
 #include "model/colExInputRangeList.h"
 #include "model/colGroupHeadings.h"
@@ -47,6 +51,10 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(clsColumnStyle(nullptr));
   ExpectDescribed(clsSaveSettings(nullptr));
   ExpectDescribed(ExcelFunctions(nullptr));
+  ExpectDescribed(ErrorMessageBox(nullptr, nullptr));
+  ExpectDescribed(errL100Jrn());
+  desktops::UnattendedDesktop desktop;
+  ExpectDescribed(clsErrorList(std::shared_ptr<forms::Toolkit>(&desktop, [](auto*) {}), nullptr));
 }
 
 TEST(TypeLibrary, TellsASlotInFull) {
@@ -127,23 +135,28 @@ TEST(TypeLibrary, TellsWhichClassesAClientCanCreateAndWhichAreGlobal) {
     library->GetTypeInfo(i, type.Receive());
     classes.push_back(ClassText(*type.Get()));
   }
-  EXPECT_THAT(classes,
-              ElementsAre("clsRangeGroupHeading: default _clsRangeGroupHeading",
-                          "colGroupHeadings: default _colGroupHeadings",
-                          "clsExInputRange: creatable default _clsExInputRange",
-                          "colExInputRangeList: creatable default _colExInputRangeList",
-                          "clsInterfaceRangeList: creatable default _clsInterfaceRangeList "
-                          "default source __clsInterfaceRangeList",
-                          "clsRangeProperties: creatable default _clsRangeProperties",
-                          "clsColumnStyle: creatable default _clsColumnStyle",
-                          "clsSaveSettings: creatable default _clsSaveSettings",
-                          "ExcelFunctions: global creatable default _ExcelFunctions"));
+  EXPECT_THAT(
+      classes,
+      ElementsAre("clsRangeGroupHeading: default _clsRangeGroupHeading",
+                  "colGroupHeadings: default _colGroupHeadings",
+                  "clsExInputRange: creatable default _clsExInputRange",
+                  "colExInputRangeList: creatable default _colExInputRangeList",
+                  "clsInterfaceRangeList: creatable default _clsInterfaceRangeList "
+                  "default source __clsInterfaceRangeList",
+                  "clsRangeProperties: creatable default _clsRangeProperties",
+                  "clsColumnStyle: creatable default _clsColumnStyle",
+                  "clsSaveSettings: creatable default _clsSaveSettings",
+                  "ExcelFunctions: global creatable default _ExcelFunctions",
+                  "ErrorMessageBox: global creatable default _ErrorMessageBox",
+                  "errL100Jrn: global creatable default _errL100Jrn",
+                  "clsErrorList: creatable default _clsErrorList default source __clsErrorList"));
 }
 
 TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
-  for (const char* name : {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange",
-                           "_colExInputRangeList", "_clsInterfaceRangeList", "_clsRangeProperties",
-                           "_clsColumnStyle", "_clsSaveSettings", "_ExcelFunctions"}) {
+  for (const char* name :
+       {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange", "_colExInputRangeList",
+        "_clsInterfaceRangeList", "_clsRangeProperties", "_clsColumnStyle", "_clsSaveSettings",
+        "_ExcelFunctions", "_ErrorMessageBox", "_errL100Jrn", "_clsErrorList"}) {
     const auto view = TableViewOf(*TypeNamed(name).Get());
     TypeAttributes attributes(*view.Get());
     view->GetTypeAttr(attributes.Receive());
@@ -161,8 +174,9 @@ TEST(TypeLibrary, HidesTheEnumeratorFromBrowsers) {
   EXPECT_EQ(function->wFuncFlags, FUNCFLAG_FRESTRICTED);
 }
 
-TEST(TypeLibrary, TellsTheEventsOfARangeList) {
-  const auto type = TypeNamed("__clsInterfaceRangeList");
+/// "identifier name: help" of each event of a source interface.
+std::vector<std::string> EventsOf(const char* source) {
+  const auto type = TypeNamed(source);
   TypeAttributes attributes(*type.Get());
   type->GetTypeAttr(attributes.Receive());
   EXPECT_EQ(attributes->typekind, TKIND_DISPATCH);
@@ -176,11 +190,20 @@ TEST(TypeLibrary, TellsTheEventsOfARangeList) {
     type->GetDocumentation(function->memid, name.Receive(), help.Receive(), nullptr, nullptr);
     events.push_back(std::to_string(function->memid) + " " + name.Text() + ": " + help.Text());
   }
-  EXPECT_THAT(events,
+  return events;
+}
+
+TEST(TypeLibrary, TellsTheEventsOfARangeList) {
+  EXPECT_THAT(EventsOf("__clsInterfaceRangeList"),
               ElementsAre("1 RangeAddValidationError: Data validation could not be added to a "
                           "range.",
                           "2 RangeAddTooltipError: An input message could not be added: 0 while "
                           "adding it, 1 while setting its texts."));
+}
+
+TEST(TypeLibrary, TellsTheEventOfAnErrorList) {
+  EXPECT_THAT(EventsOf("__clsErrorList"),
+              ElementsAre("1 FormClosed: The person has closed the list."));
 }
 
 TEST(TypeLibrary, LetsAHandlerSeeTheStageOfAFailedTooltip) {
@@ -266,7 +289,11 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("_clsSaveSettings", "{3A4DB0AA-7EBB-4E13-A369-6DF49B9FB418}"),
                           Pair("_clsInterfaceRangeList", "{96AC32DF-DC59-4172-A116-306F51B69B53}"),
                           Pair("_ExcelFunctions", "{6A523BB4-D3E4-46FE-905B-2DBCFF546108}"),
+                          Pair("_ErrorMessageBox", "{3C266930-6CEF-4557-BCF0-92E30A4AF202}"),
+                          Pair("_errL100Jrn", "{85A5D147-95E8-4A41-9E2F-1C9324A3ABC2}"),
+                          Pair("_clsErrorList", "{C2CCE0EE-CCAD-44E1-A2CC-CB721992DAC1}"),
                           Pair("__clsInterfaceRangeList", "{823CBCD1-3B30-4061-8544-84BB2F5E23F9}"),
+                          Pair("__clsErrorList", "{0BDE0CAB-B365-45FA-80F1-B3740D75BE69}"),
                           Pair("clsRangeGroupHeading", "{57A505C8-0DAA-43EA-89B8-5B682761AACA}"),
                           Pair("colGroupHeadings", "{AC70CE33-AC49-4553-AAFB-083A3D44CB12}"),
                           Pair("clsExInputRange", "{FCEE5D41-C542-4C4D-93A6-8BD7E2627E81}"),
@@ -275,7 +302,10 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("clsRangeProperties", "{42CD4EDC-D06C-43CD-A93F-17A134F30A50}"),
                           Pair("clsColumnStyle", "{8724327A-FF1A-4459-8D32-B8379209BB5F}"),
                           Pair("clsSaveSettings", "{D7D4614C-341A-4305-A140-7E27209B1EC8}"),
-                          Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}")));
+                          Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}"),
+                          Pair("ErrorMessageBox", "{C4CEEC56-BC5B-42C9-8C97-0230704DA14B}"),
+                          Pair("errL100Jrn", "{E36C2DB5-1A2D-4E2C-99EB-20A0667718AE}"),
+                          Pair("clsErrorList", "{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}")));
 }
 
 TEST(TypeLibrary, DescribesEveryTypeInWords) {
@@ -285,7 +315,7 @@ TEST(TypeLibrary, DescribesEveryTypeInWords) {
   library->GetDocumentation(-1, name.Receive(), help.Receive(), nullptr, nullptr);
   EXPECT_EQ(name.Text(), "Rangewerks");
   EXPECT_EQ(help.Text(), "Rangewerks");
-  EXPECT_EQ(library->GetTypeInfoCount(), 23U);  // 4 enumerations, 10 interfaces, 9 classes
+  EXPECT_EQ(library->GetTypeInfoCount(), 30U);  // 4 enumerations, 14 interfaces, 12 classes
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     library->GetDocumentation(static_cast<INT>(i), name.Receive(), help.Receive(), nullptr,
                               nullptr);
