@@ -37,9 +37,10 @@ void RaiseError(std::string_view sProcedure) {
   const std::int32_t line = SavedError().line;
   const std::string prefix = line != 0 ? "Line No.: " + std::to_string(line) + " " : "";
   RestoreError();
-  const ErrorState& current = CurrentError();
-  throw automation::Error(current.number, prefix + BuildErrorSource(sProcedure),
-                          current.description);
+  ErrorState& current = CurrentError();
+  // What is raised is the current error from now on, for a caller outside who has it shown.
+  current.source = prefix + BuildErrorSource(sProcedure);
+  throw automation::Error(current.number, current.source, current.description);
 }
 
 }  // namespace rangewerks::modErrorHandling

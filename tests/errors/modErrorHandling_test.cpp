@@ -73,5 +73,15 @@ TEST(RaiseError, AnEmptySourceAndALineGiveThePrefixBeforeTheProcedure) {
   EXPECT_EQ(Raised("P Line#:3").Source(), "Line No.: 3 P Line#:3");
 }
 
+TEST(RaiseError, MakesWhatItRaisesTheCurrentError) {
+  CurrentError() = {9, "Inner", "words", 4};
+  SaveError();
+  const Error raised = ErrorOf([] { RaiseError("Outer Line#:4"); });
+  EXPECT_EQ(CurrentError().number, 9);
+  EXPECT_EQ(CurrentError().source, raised.Source());
+  EXPECT_EQ(CurrentError().source, "Line No.: 4 Inner\r\nOuter Line#:4");
+  EXPECT_EQ(CurrentError().description, "words");
+}
+
 }  // namespace
 }  // namespace rangewerks::tests
