@@ -1,6 +1,6 @@
 ' What is wrong with a sheet, collected and shown. Nobody is there: windows open unseen, and message
 ' boxes are answered by themselves.
-Dim errors, box, marker, number
+Dim errors, box, marker
 
 On Error Resume Next
 NewScene "Sheet1"
@@ -80,15 +80,20 @@ CheckEqual "a number", box.ErrorNumber, 13
 CheckEqual "a message", box.ErrorMessage, "Type mismatch"
 CheckEqual "a detail", box.ExtraMessage, "Reading"
 
-list.Item "nowhere"
-number = Err.Number
+errors.Add 1, "A row of no range", 0, ""
+Set errors.KeyRange = Nothing
+errors.Add 1, "A row of no range", 0, ""
 Err.Clear
 box.DisplayErrMessage "Test of Script"
-CheckEqual "the error being handled is the last that has left the library", box.ErrorNumber, number
+CheckEqual "the error that has left the library last", box.ErrorNumber, 91
+CheckEqual "its words", box.ErrorMessage, "Object variable or With block variable not set"
+CheckEqual "its way and the caller's line", WithoutLines(box.ExtraMessage), _
+           "Line No.: n Add of Class Module clsErrorList Line#:n" & vbCrLf & "Test of Script"
 
 ' --- the object without members ----------------------------------------------------------------------
 
 Set marker = CreateObject("Rangewerks.errL100Jrn")
 CheckClass "the object without members", marker, "errL100Jrn"
 marker.Anything
-CheckError "a member of it", 438, "", "Object doesn't support this property or method"
+CheckEqual "it has none", Err.Number, 438
+Err.Clear

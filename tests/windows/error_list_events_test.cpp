@@ -1,6 +1,7 @@
 // The event of an error list, as a caller connects to it.
 #include <gtest/gtest.h>
 #include <ocidl.h>
+#include <olectl.h>
 
 #include "windows/fake_object.h"
 #include "windows/server_under_test.h"
