@@ -8,6 +8,7 @@
 #include "com/server/server.h"
 #include "com/server/type_library.h"
 #include "desktops/unattended/unattended_desktop.h"
+#include "desktops/win32/win32_desktop.h"
 #include "errors/ErrorMessageBox.h"
 #include "errors/clsErrorList.h"
 #include "errors/errL100Jrn.h"
@@ -28,10 +29,15 @@ std::shared_ptr<const platform::System> TheSystem() {
   return system;
 }
 
+std::shared_ptr<forms::Toolkit> MakeDesktop() {
+  if (desktops::IsUnattended()) return std::make_shared<desktops::UnattendedDesktop>();
+  return std::make_shared<desktops::Win32Desktop>();
+}
+
 /// Where forms are shown. A form that is open keeps the module.
 std::shared_ptr<forms::Toolkit> TheDesktop() {
   static const auto desktop = [] {
-    auto made = std::make_shared<desktops::UnattendedDesktop>();
+    auto made = MakeDesktop();
     made->KeepWhileLoaded([] { return std::make_shared<ModuleLock>(); });
     return made;
   }();
