@@ -56,7 +56,7 @@ Office& SharedOffice() {
 
 HostFactory LibreOfficeHost() {
   HostFactory host{"LibreOffice", [] { return std::make_unique<LibreOfficeUnderTest>(); }};
-  host.hasMacros = false;
+  host.hasMacros = true;
   host.hasMenus = false;
   return host;
 }
