@@ -4,8 +4,10 @@
 #include <com/sun/star/sheet/XSheetCellRange.hpp>
 #include <com/sun/star/view/XSelectionSupplier.hpp>
 
+#include "hosts/libreoffice/command_bars.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/range.h"
+#include "hosts/libreoffice/shortcut_menu.h"
 #include "hosts/libreoffice/workbook.h"
 #include "hosts/libreoffice/worksheet.h"
 #include "platform/excel_constants.h"
@@ -49,7 +51,11 @@ const MemberTable& Application::Members() const {
                "A fact of the locale.")
           .Get(10, "Application", &Application::GetApplication, "The application.")
           .Method(11, "Intersect", &Application::Intersect, {"Arg1", "Arg2"},
-                  "The cells that both ranges have, or nothing.");
+                  "The cells that both ranges have, or nothing.")
+          .Get(12, "CommandBars", &Application::GetCommandBars, {Optional("Index")},
+               "All menus, or one of them.")
+          .Get(13, "ShortcutMenus", &Application::GetShortcutMenus, {"Index"},
+               "A menu that a right click opens: 3, that of the cells.");
   return table;
 }
 
@@ -115,6 +121,13 @@ Variant Application::GetInternational(const Variant& index) const {
 }
 
 Variant Application::GetApplication() const { return Of(Office()); }
+
+Variant Application::GetCommandBars(const Variant& index) const {
+  return Element<CommandBars>(index, Office());
+}
+Variant Application::GetShortcutMenus(std::int32_t index) const {
+  return Menu::Of(Office(), index);
+}
 
 Variant Application::Intersect(const Variant& first, const Variant& second) const {
   const auto one = RangeArgument(first);

@@ -10,6 +10,7 @@ class Application final : public HostObject {
   explicit Application(SessionPointer session) : HostObject(std::move(session)) {}
   static std::shared_ptr<Application> Of(const SessionPointer& session);
   const MemberTable& Members() const override;
+  const SessionPointer& OfSession() const noexcept { return Office(); }
 
  private:
   Variant GetName() const;
@@ -22,6 +23,8 @@ class Application final : public HostObject {
   Variant GetSelection() const;
   Variant GetInternational(const Variant& index) const;
   Variant GetApplication() const;
+  Variant GetCommandBars(const Variant& index) const;
+  Variant GetShortcutMenus(std::int32_t index) const;
   Variant Intersect(const Variant& first, const Variant& second) const;
 };
 

@@ -21,6 +21,7 @@
 
 namespace rangewerks::hosts::libreoffice {
 
+class CellMenu;
 class Session;
 
 /// The sheets, names, formats and styles of one document.
@@ -86,7 +87,11 @@ using BookPointer = std::shared_ptr<Book>;
 /// which side of a bridge it stands.
 class Session : public std::enable_shared_from_this<Session> {
  public:
-  explicit Session(const Reference<css::uno::XComponentContext>& context);
+  /// With `visible`, workbooks have windows that a person sees.
+  Session(const Reference<css::uno::XComponentContext>& context, bool visible);
+  Session(const Session&) = delete;
+  Session& operator=(const Session&) = delete;
+  ~Session();
 
   const Reference<css::uno::XComponentContext>& Context() const noexcept { return context_; }
   const Reference<css::frame::XDesktop2>& Desktop() const noexcept { return desktop_; }
@@ -98,6 +103,10 @@ class Session : public std::enable_shared_from_this<Session> {
   BookPointer Add(const Reference<css::frame::XModel>& model, const std::string& path);
   void Close(const BookPointer& book);
 
+  bool IsVisible() const noexcept { return isVisible_; }
+  /// The menu of the cells, read from the office when first asked for.
+  CellMenu& Menu();
+
   /// How the office writes numbers and dates.
   const automation::Locale& OfficeLocale();
 
@@ -108,7 +117,9 @@ class Session : public std::enable_shared_from_this<Session> {
   Reference<css::frame::XDesktop2> desktop_;
   std::vector<BookPointer> books_;
   BookPointer active_;
+  bool isVisible_;
   std::optional<automation::Locale> locale_;
+  std::unique_ptr<CellMenu> menu_;
 };
 
 using SessionPointer = std::shared_ptr<Session>;

@@ -1,6 +1,8 @@
 #include "hosts/libreoffice/office.h"
 
 #include "hosts/libreoffice/application.h"
+#include "hosts/libreoffice/cell_menu.h"
+#include "hosts/libreoffice/command_bars.h"
 #include "hosts/libreoffice/connection.h"
 #include "hosts/libreoffice/documents.h"
 #include "hosts/libreoffice/failure.h"
@@ -37,15 +39,17 @@ BookPointer BookOf(const automation::Object& workbook) {
 }  // namespace
 
 struct Office::Parts {
-  Parts()
-      : process(PreparedProgramFolder()), session(std::make_shared<Session>(Connect(process))) {}
+  explicit Parts(OfficeOptions options)
+      : process(PreparedProgramFolder(), options.visible),
+        session(std::make_shared<Session>(Connect(process), options.visible)) {}
 
   OfficeProcess process;
   SessionPointer session;
+  std::function<void(const MenuChoice&)> onMenuChoice;
 };
 
-Office::Office() {
-  parts_ = Guarded("Starting LibreOffice", [] { return std::make_unique<Parts>(); });
+Office::Office(OfficeOptions options) {
+  parts_ = Guarded("Starting LibreOffice", [&] { return std::make_unique<Parts>(options); });
 }
 
 Office::~Office() {
@@ -81,6 +85,24 @@ void Office::SaveCopyAs(const automation::Object& workbook, const std::string& p
 
 void Office::Close(const automation::Object& workbook) {
   Guarded("Closing a workbook", [&] { parts_->session->Close(BookOf(workbook)); });
+}
+
+void Office::OnMenuChoice(std::function<void(const MenuChoice&)> handler) {
+  parts_->onMenuChoice = std::move(handler);
+}
+
+std::size_t Office::TellMenuChoices(std::chrono::milliseconds wait) {
+  std::size_t told = 0;
+  const auto next = [&] {
+    return parts_->session->Menu().TakeChoice(told == 0 ? wait : std::chrono::milliseconds{});
+  };
+  while (const MenuEntryPointer entry = next()) {
+    ++told;
+    CommandBarControl::RaiseClick(parts_->session, entry);
+    const auto handler = parts_->onMenuChoice;  // it may say something else from now on
+    if (handler) handler({entry->caption, entry->tag, entry->onAction});
+  }
+  return told;
 }
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -8,6 +8,9 @@
 // What this host can't do is listed in docs/hosts.md.
 #pragma once
 
+#include <chrono>
+#include <cstddef>
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -23,9 +26,21 @@ struct OpenOptions {
   bool evenIfLocked = false;
 };
 
-/// A private office process, started headless on a pipe of its own with its own profile folder: no
-/// other office is touched. It ends with this object, and also when the program dies. Objects that
-/// came from it may live on, but each call on them then raises 1004.
+struct OfficeOptions {
+  /// Shows windows, on the display that DISPLAY names, instead of running headless.
+  bool visible = false;
+};
+
+/// An entry added to the menu of the cells, as it was when a person chose it.
+struct MenuChoice {
+  std::string caption;  ///< with "&" in front of the access key
+  std::string tag;
+  std::string onAction;  ///< name of a macro, which isn't run
+};
+
+/// A private office process, started headless unless asked otherwise on a pipe of its own with its
+/// own profile folder: no other office is touched. It ends with this object, and also when the
+/// program dies. Objects that came from it may live on, but each call on them then raises 1004.
 ///
 /// It must have ended before main returns: a static Office would outlive what it needs.
 ///
@@ -35,7 +50,7 @@ class Office {
  public:
   /// Starts, which takes about a second. The office reads and writes numbers and dates in the
   /// locale of the process's environment (LC_ALL and its like).
-  Office();
+  explicit Office(OfficeOptions options = {});
   Office(const Office&) = delete;
   Office& operator=(const Office&) = delete;
   ~Office();
@@ -53,6 +68,14 @@ class Office {
   void SaveCopyAs(const automation::Object& workbook, const std::string& path);
   /// Closes without saving.
   void Close(const automation::Object& workbook);
+
+  /// Says what happens when a person chooses an entry that was added to the menu of the cells;
+  /// takes the place of what was said before.
+  void OnMenuChoice(std::function<void(const MenuChoice&)> handler);
+  /// Calls the handler, on the calling thread, for each entry that was chosen and not told yet;
+  /// raises Click of its control, too. Waits for a first one at most that long. Returns how many
+  /// were told.
+  std::size_t TellMenuChoices(std::chrono::milliseconds wait = {});
 
  private:
   struct Parts;

@@ -104,24 +104,24 @@ std::vector<std::string> Environment() {
 }
 
 std::vector<std::string> CommandLine(const fs::path& programFolder, const fs::path& folder,
-                                     const std::string& pipeName) {
+                                     const std::string& pipeName, bool visible) {
   const std::string profile = "file://" + (folder / "profile").string();
   // The launcher, not the program behind it: on a new profile that one ends at once and asks to be
   // started again.
-  return {"/bin/sh",
-          "-c",
-          kSupervisor,
-          "rangewerks-office",
-          folder.string(),
-          profile,
-          (programFolder / "soffice").string(),
-          "--headless",
-          "--invisible",
-          "--norestore",
-          "--nologo",
-          "--nodefault",
-          "--accept=pipe,name=" + pipeName + ";urp;",
-          "-env:UserInstallation=" + profile};
+  std::vector<std::string> command{"/bin/sh",
+                                   "-c",
+                                   kSupervisor,
+                                   "rangewerks-office",
+                                   folder.string(),
+                                   profile,
+                                   (programFolder / "soffice").string(),
+                                   "--norestore",
+                                   "--nologo",
+                                   "--nodefault",
+                                   "--accept=pipe,name=" + pipeName + ";urp;",
+                                   "-env:UserInstallation=" + profile};
+  if (!visible) command.insert(command.end(), {"--headless", "--invisible"});
+  return command;
 }
 
 class SpawnSetup {
@@ -170,7 +170,7 @@ void FileDescriptor::Close() {
   if (descriptor_ >= 0) close(std::exchange(descriptor_, -1));
 }
 
-OfficeProcess::OfficeProcess(const fs::path& programFolder)
+OfficeProcess::OfficeProcess(const fs::path& programFolder, bool visible)
     : folder_(MakeFolder()),
       pipeName_(folder_.filename().string()),
       output_(MakeOutput(folder_)),
@@ -180,7 +180,7 @@ OfficeProcess::OfficeProcess(const fs::path& programFolder)
   FileDescriptor readEnd(ends[0]);
   FileDescriptor writeEnd(ends[1]);
   supervisor_ = SpawnSetup(readEnd.Get(), output_.Get())
-                    .Start(CommandLine(programFolder, folder_, pipeName_), Environment());
+                    .Start(CommandLine(programFolder, folder_, pipeName_, visible), Environment());
   lifeline_ = std::move(writeEnd);
 }
 

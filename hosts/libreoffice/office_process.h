@@ -28,8 +28,8 @@ class FileDescriptor {
   int descriptor_;
 };
 
-/// A headless office with a profile folder and a pipe of its own, so that neither the user's office
-/// nor another program's is touched.
+/// An office, headless unless it is asked to be visible, with a profile folder and a pipe of its
+/// own, so that neither the user's office nor another program's is touched.
 ///
 /// A supervising shell holds the other end of a pipe to this process. When that pipe closes, be it
 /// in the destructor or because this process died in whatever way, the shell kills the office with
@@ -37,7 +37,8 @@ class FileDescriptor {
 class OfficeProcess {
  public:
   /// Starts; doesn't wait until the office can be talked to. Raises 1004 when it can't be started.
-  explicit OfficeProcess(const std::filesystem::path& programFolder);
+  /// With `visible` it shows windows, on the display that DISPLAY names.
+  explicit OfficeProcess(const std::filesystem::path& programFolder, bool visible = false);
   OfficeProcess(const OfficeProcess&) = delete;
   OfficeProcess& operator=(const OfficeProcess&) = delete;
   ~OfficeProcess();

@@ -123,7 +123,7 @@ Reference<css::lang::XComponent> LoadFile(Session& session, const std::string& p
   try {
     component =
         Load(session, UrlOf(path),
-             {Option("Hidden", Any(true)),
+             {Option("Hidden", Any(!session.IsVisible())),
               Option("ReadOnly", Any(options.readOnly || options.evenIfLocked)),
               Option("MacroExecutionMode", Any(css::document::MacroExecMode::NEVER_EXECUTE)),
               Option("UpdateDocMode", Any(css::document::UpdateDocMode::NO_UPDATE)),
@@ -190,7 +190,7 @@ BookPointer NewDocument(Session& session, const std::vector<std::string>& sheets
   if (sheets.empty()) Fail("A workbook can't be made without a sheet.");
   for (const std::string& name : sheets) RequireSheetName(name);
   const auto component =
-      Load(session, ToUno("private:factory/scalc"), {Option("Hidden", Any(true))});
+      Load(session, ToUno("private:factory/scalc"), {Option("Hidden", Any(!session.IsVisible()))});
   BookPointer book = session.Add(As<css::frame::XModel>(component), {});
   while (book->SheetCount() > 1) book->Remove(book->SheetAt(book->SheetCount()));
   book->SheetAt(1)->Rename(sheets.front());

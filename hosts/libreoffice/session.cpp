@@ -2,13 +2,16 @@
 #include <com/sun/star/frame/Desktop.hpp>
 
 #include "hosts/libreoffice/book.h"
+#include "hosts/libreoffice/cell_menu.h"
 #include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/office_locale.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-Session::Session(const Reference<css::uno::XComponentContext>& context)
-    : context_(context), desktop_(css::frame::Desktop::create(context_)) {}
+Session::Session(const Reference<css::uno::XComponentContext>& context, bool visible)
+    : context_(context), desktop_(css::frame::Desktop::create(context_)), isVisible_(visible) {}
+
+Session::~Session() = default;
 
 const BookPointer& Session::ActiveBook() const {
   if (!active_) Fail("No workbook is open");
@@ -18,6 +21,7 @@ const BookPointer& Session::ActiveBook() const {
 BookPointer Session::Add(const Reference<css::frame::XModel>& model, const std::string& path) {
   books_.push_back(std::make_shared<Book>(this, model, path));
   active_ = books_.back();
+  if (menu_ && menu_->IsShown()) menu_->ShowIn(*active_);
   return active_;
 }
 
@@ -28,6 +32,11 @@ void Session::Close(const BookPointer& book) {
   const BookPointer closed = std::move(*place);  // `book` may be the very entry that goes
   books_.erase(place);
   if (active_ == closed) active_ = books_.empty() ? nullptr : books_.back();
+}
+
+CellMenu& Session::Menu() {
+  if (!menu_) menu_ = std::make_unique<CellMenu>(*this);
+  return *menu_;
 }
 
 const automation::Locale& Session::OfficeLocale() {

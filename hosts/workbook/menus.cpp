@@ -1,8 +1,6 @@
 #include "hosts/workbook/menus.h"
 
-#include <algorithm>
-
-#include "automation/text.h"
+#include "hosts/common/captions.h"
 #include "hosts/workbook/failure.h"
 #include "hosts/workbook/model_object.h"
 
@@ -16,11 +14,6 @@ MenuBarPointer BarOf(std::string name, std::initializer_list<const char*> captio
   bar->name = std::move(name);
   for (const char* caption : captions) AddEntry(*bar, caption, Variant::Missing());
   return bar;
-}
-
-std::string WithoutAccessKey(std::string caption) {
-  std::erase(caption, '&');
-  return caption;
 }
 
 }  // namespace
@@ -37,18 +30,11 @@ Menus::Menus()
 std::size_t PlaceOfEntry(const MenuBar& bar, const Variant& index) {
   const auto& entries = bar.entries;
   if (const auto* caption = index.TryGet<std::string>()) {
-    auto found = std::ranges::find_if(
-        entries, [&](const MenuEntryPointer& entry) { return entry->caption == *caption; });
-    if (found == entries.end()) {
-      const std::string plain = WithoutAccessKey(*caption);
-      found = std::ranges::find_if(entries, [&](const MenuEntryPointer& entry) {
-        return automation::EqualText(WithoutAccessKey(entry->caption), plain);
-      });
-    }
-    if (found == entries.end()) {
-      RefuseElement("Menu \"" + bar.name + "\" has no entry \"" + *caption + "\"");
-    }
-    return static_cast<std::size_t>(found - entries.begin());
+    std::vector<std::string> captions;
+    for (const MenuEntryPointer& entry : entries) captions.push_back(entry->caption);
+    const auto place = FindCaption(captions, *caption);
+    if (!place) RefuseElement("Menu \"" + bar.name + "\" has no entry \"" + *caption + "\"");
+    return *place;
   }
   const std::int32_t position = LongArgument(index);
   if (position < 1 || static_cast<std::size_t>(position) > entries.size()) {

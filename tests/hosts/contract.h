@@ -40,12 +40,7 @@ class HostContract : public testing::TestWithParam<HostFactory> {
 
 }  // namespace rangewerks::tests
 
-#define CONTRACT_FOR_HOSTS(Suite, hosts)          \
-  INSTANTIATE_TEST_SUITE_P(                       \
-      EveryHost, Suite, testing::ValuesIn(hosts), \
+#define CONTRACT_FOR_ALL_HOSTS(Suite)               \
+  INSTANTIATE_TEST_SUITE_P(                         \
+      EveryHost, Suite, testing::ValuesIn(Hosts()), \
       [](const testing::TestParamInfo<HostFactory>& i) { return i.param.name; })
-
-#define CONTRACT_FOR_ALL_HOSTS(Suite) CONTRACT_FOR_HOSTS(Suite, Hosts())
-/// For what only some hosts have: a flag of HostFactory.
-#define CONTRACT_FOR_HOSTS_WITH(Suite, feature) \
-  CONTRACT_FOR_HOSTS(Suite, HostsWith(&HostFactory::feature))

@@ -27,7 +27,7 @@ class DocumentPropertiesContract : public HostContract {
 
   Object properties_;
 };
-CONTRACT_FOR_HOSTS_WITH(DocumentPropertiesContract, hasDocumentProperties);
+CONTRACT_FOR_ALL_HOSTS(DocumentPropertiesContract);
 
 TEST_P(DocumentPropertiesContract, TheConstantIsThePublishedNumber) {
   EXPECT_EQ(excel::msoPropertyTypeBoolean, 2);

@@ -38,10 +38,6 @@ class HostUnderTest {
 struct HostFactory {
   std::string name;
   std::function<std::unique_ptr<HostUnderTest>()> make;
-  // What docs/hosts.md tells of hosts that can't do everything.
-  bool hasMacros = true;
-  bool hasMenus = true;
-  bool hasDocumentProperties = true;
 };
 
 }  // namespace rangewerks::tests

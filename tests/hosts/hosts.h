@@ -9,12 +9,6 @@ namespace rangewerks::tests {
 
 /// All that this build has: the workbook in memory, and LibreOffice when it was built.
 std::vector<HostFactory> Hosts();
-/// Those of them that have something which not every host has.
-inline std::vector<HostFactory> HostsWith(bool HostFactory::*feature) {
-  std::vector<HostFactory> hosts = Hosts();
-  std::erase_if(hosts, [feature](const HostFactory& host) { return !(host.*feature); });
-  return hosts;
-}
 
 HostFactory WorkbookHost();
 #ifdef RANGEWERKS_LIBREOFFICE

@@ -55,10 +55,7 @@ Office& SharedOffice() {
 }
 
 HostFactory LibreOfficeHost() {
-  HostFactory host{"LibreOffice", [] { return std::make_unique<LibreOfficeUnderTest>(); }};
-  host.hasMacros = true;
-  host.hasMenus = false;
-  return host;
+  return {"LibreOffice", [] { return std::make_unique<LibreOfficeUnderTest>(); }};
 }
 
 }  // namespace rangewerks::tests

@@ -54,7 +54,7 @@ class MacrosContract : public HostContract {
 
   Object modules_;
 };
-CONTRACT_FOR_HOSTS_WITH(MacrosContract, hasMacros);
+CONTRACT_FOR_ALL_HOSTS(MacrosContract);
 
 TEST_P(MacrosContract, TheConstantsAreThePublishedNumbers) {
   EXPECT_EQ(excel::vbext_ct_StdModule, 1);

@@ -50,7 +50,7 @@ class MenusContract : public HostContract {
     return {};
   }
 };
-CONTRACT_FOR_HOSTS_WITH(MenusContract, hasMenus);
+CONTRACT_FOR_ALL_HOSTS(MenusContract);
 
 TEST_P(MenusContract, TheConstantIsThePublishedNumber) { EXPECT_EQ(excel::xlWorksheetCell, 3); }
 
