@@ -75,6 +75,7 @@ CellMenu::CellMenu(Session& session)
 std::size_t CellMenu::PlaceOf(const Variant& index) const {
   if (const auto* caption = index.TryGet<std::string>()) {
     std::vector<std::string> captions;
+    captions.reserve(entries_.size());
     for (const MenuEntryPointer& entry : entries_) captions.push_back(entry->caption);
     const auto place = FindCaption(captions, *caption);
     if (!place) FailElement("The menu of the cells has no entry \"" + *caption + "\"");

@@ -31,6 +31,7 @@ std::size_t PlaceOfEntry(const MenuBar& bar, const Variant& index) {
   const auto& entries = bar.entries;
   if (const auto* caption = index.TryGet<std::string>()) {
     std::vector<std::string> captions;
+    captions.reserve(entries.size());
     for (const MenuEntryPointer& entry : entries) captions.push_back(entry->caption);
     const auto place = FindCaption(captions, *caption);
     if (!place) RefuseElement("Menu \"" + bar.name + "\" has no entry \"" + *caption + "\"");
