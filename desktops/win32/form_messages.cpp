@@ -1,4 +1,6 @@
 // What Windows tells a form's window.
+#include <exception>
+
 #include "desktops/win32/container_window.h"
 #include "desktops/win32/form_at_work.h"
 #include "desktops/win32/units.h"
@@ -31,12 +33,21 @@ LRESULT Win32FormWindow::Receive(HWND window, UINT message, WPARAM first, LPARAM
   const VisualStyles::Active active(*styles_);
   try {
     if (const std::optional<LRESULT> answer = Answer(message, first, second)) return *answer;
-  } catch (...) {
-    // Windows can't carry an exception. Handlers guard themselves; what is left here is a failure
-    // to tell the person of a failure.
-    static_cast<void>(0);
+  } catch (const std::exception& failure) {
+    Tell(failure);
   }
   return DefWindowProcW(window, message, first, second);
+}
+
+// Windows can't carry an exception. Handlers report failures themselves; here is what isn't one that
+// the library raises.
+void Win32FormWindow::Tell(const std::exception& failure) {
+  if (closed_) return;
+  try {
+    desktop_.ReportUnhandled(failure, &form_);
+  } catch (const std::exception&) {
+    MessageBeep(MB_ICONERROR);  // not even that can be told
+  }
 }
 
 std::optional<LRESULT> Win32FormWindow::Answer(UINT message, WPARAM first, LPARAM second) {

@@ -54,7 +54,7 @@ void Win32FormWindow::ApplyPlace() {
 void Win32FormWindow::ApplyTopMost() {
   const OwnChange ownChange(*this);
   SetWindowPos(window_, form_.IsTopMost() ? HWND_TOPMOST : HWND_NOTOPMOST, 0, 0, 0, 0,
-               SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+               SWP_NOMOVE | SWP_NOSIZE);
 }
 
 // What hasn't changed by a pixel is told as the form knows it, so that a move isn't taken for a

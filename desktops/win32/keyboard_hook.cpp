@@ -1,5 +1,6 @@
 #include "desktops/win32/keyboard_hook.h"
 
+#include <exception>
 #include <unordered_map>
 
 namespace rangewerks::desktops {
@@ -49,9 +50,8 @@ LRESULT CALLBACK MessageRead(int code, WPARAM removed, LPARAM message) {
   if (code == HC_ACTION && removed == PM_REMOVE) {
     try {
       Offer(*reinterpret_cast<MSG*>(message));
-    } catch (...) {
-      // Nobody above could take it; the key is handed out as if there were no form.
-      static_cast<void>(0);
+    } catch (const std::exception&) {
+      MessageBeep(MB_ICONERROR);  // the key is lost, and nobody above could take the failure
     }
   }
   return CallNextHookEx(nullptr, code, removed, message);

@@ -14,17 +14,16 @@ bool BelongsTo(HWND window, HWND form) {
   return false;
 }
 
+BOOL CALLBACK AddUsable(HWND window, LPARAM found) {
+  if (IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE) {
+    reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
+  }
+  return TRUE;
+}
+
 std::vector<HWND> UsableWindows() {
   std::vector<HWND> windows;
-  EnumThreadWindows(
-      GetCurrentThreadId(),
-      [](HWND window, LPARAM found) -> BOOL {
-        if (IsWindowVisible(window) != FALSE && IsWindowEnabled(window) != FALSE) {
-          reinterpret_cast<std::vector<HWND>*>(found)->push_back(window);
-        }
-        return TRUE;
-      },
-      reinterpret_cast<LPARAM>(&windows));
+  EnumThreadWindows(GetCurrentThreadId(), AddUsable, reinterpret_cast<LPARAM>(&windows));
   return windows;
 }
 

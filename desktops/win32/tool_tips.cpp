@@ -8,10 +8,11 @@
 
 namespace rangewerks::desktops {
 
-void ToolTips::Open(HWND form, int maximumWidth) {
+// Without an owner: Wine can't bring a window above all others that owns another.
+void ToolTips::Open(int maximumWidth) {
   window_ = CreateWindowExW(WS_EX_TOPMOST, TOOLTIPS_CLASSW, nullptr,
                             WS_POPUP | TTS_ALWAYSTIP | TTS_NOPREFIX, CW_USEDEFAULT, CW_USEDEFAULT,
-                            CW_USEDEFAULT, CW_USEDEFAULT, form, nullptr, ThisModule(), nullptr);
+                            CW_USEDEFAULT, CW_USEDEFAULT, nullptr, nullptr, ThisModule(), nullptr);
   // Only with a width are long texts broken into lines.
   SendMessageW(window_, TTM_SETMAXTIPWIDTH, 0, maximumWidth);
 }

@@ -15,7 +15,7 @@ class ToolTips {
   ~ToolTips() { Close(); }
 
   /// Makes the window that all hints of a form are shown in.
-  void Open(HWND form, int maximumWidth);
+  void Open(int maximumWidth);
   void Close();
   /// An empty text takes the hint away.
   void Set(HWND form, HWND control, const std::string& text);

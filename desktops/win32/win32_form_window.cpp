@@ -78,7 +78,7 @@ void Win32FormWindow::MakeAll() {
   around_.form = window_;
   around_.dpi = DpiOf(window_);
   around_.fonts = std::make_unique<Fonts>(form_.Design(), around_.dpi);
-  around_.toolTips.Open(window_, MulDiv(kWidestHint, around_.dpi, kStandardDpi));
+  around_.toolTips.Open(MulDiv(kWidestHint, around_.dpi, kStandardDpi));
   if (form_.Design().border == forms::Border::Sizable) {
     icon_ = MakeIcon(forms::Draw(forms::Picture::Product, GetSystemMetrics(SM_CXSMICON)));
     SendMessageW(window_, WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon_.get()));
@@ -139,7 +139,7 @@ bool Win32FormWindow::RunModal() {
   if (owned) {
     SetWindowLongPtrW(window_, GWLP_HWNDPARENT, reinterpret_cast<LONG_PTR>(previous_));
     if ((GetWindowLongPtrW(previous_, GWL_EXSTYLE) & WS_EX_TOPMOST) != 0) {
-      SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE | SWP_NOACTIVATE);
+      SetWindowPos(window_, HWND_TOPMOST, 0, 0, 0, 0, SWP_NOMOVE | SWP_NOSIZE);
     }
   }
   ModalLoop loop(GetAncestor(window_, GA_ROOT));

@@ -7,6 +7,7 @@
 
 #include <windows.h>
 
+#include <exception>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -65,6 +66,7 @@ class Win32FormWindow final : public forms::FormWindow,
   std::optional<LRESULT> Command(WPARAM first, HWND from);
   std::optional<LRESULT> Paint(UINT message, HDC target, HWND of) const;
   void Destroyed();
+  void Tell(const std::exception& failure);
 
   // --- how it is made and how it goes
   void MakeAll();

@@ -43,7 +43,7 @@ class SampleForm final : public forms::Form {
   forms::Label lblHelp{*this,
                        "lblHelp",
                        {.place = {720, 120, 3480, 480},
-                        .text = "A long text that has to be broken into two lines & more",
+                        .text = "A long text that has to be broken into two lines, R&D",
                         .useMnemonic = false}};
   forms::DividingLine lneTop{*this, "lneTop", {.place = {120, 660, 4080, 30}}};
   forms::Label lblName{*this, "lblName", {.place = {120, 780, 1200, 285}, .text = "&Name:"}};
