@@ -39,8 +39,8 @@ LRESULT Win32FormWindow::Receive(HWND window, UINT message, WPARAM first, LPARAM
   return DefWindowProcW(window, message, first, second);
 }
 
-// Windows can't carry an exception. Handlers report failures themselves; here is what isn't one that
-// the library raises.
+// Windows can't carry an exception. Handlers report failures themselves; here is what isn't one
+// that the library raises.
 void Win32FormWindow::Tell(const std::exception& failure) {
   if (closed_) return;
   try {
