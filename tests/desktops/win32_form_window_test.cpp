@@ -2,7 +2,6 @@
 #include <windows.h>
 // These need what comes before.
 #include <commctrl.h>
-#include <psapi.h>
 
 #include <stdexcept>
 
@@ -215,94 +214,6 @@ TEST_F(Win32FormWindow, ItsClassIsKnownOnlyWhileAFormIsLoaded) {
   Settle();
   EXPECT_FALSE(GetClassInfoExW(module, L"RangewerksForm", &found));
   EXPECT_FALSE(GetClassInfoExW(module, L"RangewerksPanel", &found));
-}
-
-/// Numbers of new objects: Windows gives the lowest that are free, so that what isn't given back
-/// makes them grow.
-struct NewNumbers {
-  NewNumbers() {
-    HGDIOBJ const brush = CreateSolidBrush(0x123456);
-    drawing = LOWORD(reinterpret_cast<std::uintptr_t>(brush));
-    DeleteObject(brush);
-    HMENU const menu = CreateMenu();
-    windows = LOWORD(reinterpret_cast<std::uintptr_t>(menu));
-    DestroyMenu(menu);
-  }
-  unsigned drawing = 0;
-  unsigned windows = 0;
-};
-
-SIZE_T PrivateMemory() {
-  PROCESS_MEMORY_COUNTERS counters{};
-  GetProcessMemoryInfo(GetCurrentProcess(), &counters, sizeof counters);
-  return counters.PagefileUsage;
-}
-
-DWORD Handles() {
-  DWORD count = 0;
-  GetProcessHandleCount(GetCurrentProcess(), &count);
-  return count;
-}
-
-/// What this program has of the system, to be compared with a later time.
-struct Possessions {
-  NewNumbers numbers;
-  SIZE_T memory = PrivateMemory();
-  DWORD handles = Handles();
-  // Wine doesn't count these.
-  DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
-  DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
-
-  void ExpectToBeAllThereIs() const {
-    const Possessions now;
-    EXPECT_LT(now.numbers.drawing, numbers.drawing + 50);
-    EXPECT_LT(now.numbers.windows, numbers.windows + 50);
-    EXPECT_LT(now.memory, memory + 1'000'000);
-    EXPECT_LE(now.handles, handles + 20);
-    EXPECT_LE(now.drawing, drawing + 20);
-    EXPECT_LE(now.windows, windows + 20);
-  }
-};
-
-void ShowAndClose(forms::Form& form, int times) {
-  for (int i = 0; i < times; ++i) {
-    form.Show();
-    UpdateWindow(WindowOf(form));
-    form.Unload();
-    HandOut();
-  }
-}
-
-class SmallForm final : public forms::Form {
- public:
-  explicit SmallForm(forms::Toolkit& toolkit) : Form(toolkit, "SmallForm", {.caption = "Small"}) {}
-  forms::MenuEntry mnuFile{*this, "mnuFile", "&File"};
-  forms::MenuEntry mnuSave{mnuFile, "mnuSave", "&Save"};
-  forms::Frame fraAll{*this, "fraAll", {.place = {0, 0, 3000, 3000}, .text = "All"}};
-  forms::TextBox txtSwatch{
-      fraAll, "txtSwatch", {.place = {120, 360, 900, 300}, .toolTip = "Hint", .backColor = 0xFF}};
-  forms::CommandButton cmdOK{fraAll,
-                             "cmdOK",
-                             {.place = {120, 900, 900, 300},
-                              .text = "OK",
-                              .bold = true,
-                              .picture = forms::Picture::Ok,
-                              .isDefault = true}};
-};
-
-TEST_F(Win32FormWindow, NothingStaysBehindAThousandShowings) {
-  auto small = std::make_shared<SmallForm>(desktop);
-  ShowAndClose(*small, 20);
-  const Possessions before;
-  ShowAndClose(*small, 1000);
-  before.ExpectToBeAllThereIs();
-}
-
-TEST_F(Win32FormWindow, NothingStaysBehindOfAnyKindOfControl) {
-  ShowAndClose(*form, 10);
-  const Possessions before;
-  ShowAndClose(*form, 60);  // one object left by each would show
-  before.ExpectToBeAllThereIs();
 }
 
 }  // namespace
