@@ -57,9 +57,10 @@ struct Possessions {
   DWORD drawing = GetGuiResources(GetCurrentProcess(), GR_GDIOBJECTS);
   DWORD windows = GetGuiResources(GetCurrentProcess(), GR_USEROBJECTS);
 
-  void ExpectToBeAllThereIs() const {
+  /// But for so many drawing objects.
+  void ExpectToBeAllThereIs(unsigned kept = 0) const {
     const Possessions now;
-    EXPECT_LE(now.drawingNumber, drawingNumber + 20);
+    EXPECT_LE(now.drawingNumber, drawingNumber + kept + 20);
     EXPECT_LE(now.windowNumber, windowNumber + 20);
     EXPECT_LT(now.memory, memory + 1'000'000);
     EXPECT_LE(now.handles, handles + 20);
@@ -107,8 +108,11 @@ TEST_F(Win32Remains, NothingStaysBehindAThousandShowings) {
 TEST_F(Win32Remains, NothingStaysBehindOfAnyKindOfControl) {
   ShowAndClose(*form, 10);
   const Possessions before;
-  ShowAndClose(*form, 60);  // one object left by each would show
-  before.ExpectToBeAllThereIs();
+  constexpr int kTimes = 60;
+  ShowAndClose(*form, kTimes);
+  // Wine's calendar keeps a font each time that it is given one. One more object left by each
+  // showing would be seen.
+  before.ExpectToBeAllThereIs(kTimes);
 }
 
 }  // namespace
