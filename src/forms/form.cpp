@@ -145,9 +145,10 @@ void Form::Unload() {
 }
 
 void Form::DropWindow() {
-  const std::shared_ptr<FormWindow> window = std::exchange(window_, nullptr);
-  const std::shared_ptr<void> keeper = std::exchange(keeper_, nullptr);
+  // Let go in the other order: the window first, and the form's last holder when all is done.
   const std::shared_ptr<Form> keptAlive = std::exchange(keptAlive_, nullptr);
+  const std::shared_ptr<void> keeper = std::exchange(keeper_, nullptr);
+  const std::shared_ptr<FormWindow> window = std::exchange(window_, nullptr);
   if (state_ != State::NotLoaded) Reset();
 }
 
