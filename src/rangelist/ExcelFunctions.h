@@ -1,11 +1,12 @@
 // Routines usable without a range list: how sheet names become parts of workbook names, whether a
-// sheet's layout is sound, and where the library lives.
+// sheet's layout is sound, where the library lives, and the saving of a posted sheet.
 #pragma once
 
 #include <memory>
 #include <string>
 
 #include "automation/member_table.h"
+#include "forms/toolkit.h"
 #include "platform/excel.h"
 #include "platform/system.h"
 #include "rangelist/elgErrors.h"
@@ -17,8 +18,10 @@ class clsInterfaceRangeList;
 /// A global object of the library. Its methods hold no state.
 class ExcelFunctions final : public automation::AutomationClass {
  public:
-  explicit ExcelFunctions(std::shared_ptr<const platform::System> system)
-      : system_(std::move(system)) {}
+  /// CallSaveSheet needs both, DllPath the system, the others neither.
+  ExcelFunctions(std::shared_ptr<const platform::System> system,
+                 std::shared_ptr<forms::Toolkit> toolkit)
+      : system_(std::move(system)), toolkit_(std::move(toolkit)) {}
 
   const automation::MemberTable& Members() const override;
 
@@ -44,8 +47,16 @@ class ExcelFunctions final : public automation::AutomationClass {
   /// date in the cell; the century is 20. Returns an empty text.
   static std::string FormatDateRange(const excel::Range& rngTrg);
 
+  /// Saves a copy of the sheet's workbook by the file-save settings of the interface that keeps
+  /// them under `sRegSection`; `sIdentifier` is what %i in the name's pattern stands for. Does
+  /// nothing when the settings don't ask for it or the person cancels. A copy that can't be written
+  /// is told to the person, not to the caller.
+  void CallSaveSheet(const excel::Worksheet& wk_sheet, const std::string& sIdentifier,
+                     const std::string& sRegSection) const;
+
  private:
   std::shared_ptr<const platform::System> system_;
+  std::shared_ptr<forms::Toolkit> toolkit_;
 };
 
 }  // namespace rangewerks

@@ -60,7 +60,10 @@ const automation::MemberTable& ExcelFunctions::Members() const {
           .Method(6, "ValidRangeForBrowse", &C::ValidRangeForBrowse, {{"Rng"}},
                   "Whether a selection can take a browse.")
           .Method(7, "FormatDateRange", &C::FormatDateRange, {{"rngTrg"}},
-                  "Turns a short date in a cell into a full one.");
+                  "Turns a short date in a cell into a full one.")
+          .Method(8, "CallSaveSheet", &C::CallSaveSheet,
+                  {{"wk_sheet"}, {"sIdentifier"}, {"sRegSection"}},
+                  "Saves a copy of a posted sheet's workbook as the settings say.");
   return table;
 }
 

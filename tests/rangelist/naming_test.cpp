@@ -48,7 +48,7 @@ TEST(RangeNameMultiTab, WithAnEmptyRangeNameIsTheSheetPrefixAlone) {
 TEST(ExcelFunctionsObject, AnswersByName) {
   using automation::Member;
   using automation::Variant;
-  const automation::Object functions(std::make_shared<ExcelFunctions>(nullptr));
+  const automation::Object functions(std::make_shared<ExcelFunctions>(nullptr, nullptr));
   EXPECT_EQ(functions.Call(Member("CorrectedSheetName"), {"2 B"}), Variant("_2_B"));
   EXPECT_EQ(functions.Call(Member("MultiTabSheetPrefix"), {"B"}), Variant("B__"));
   EXPECT_EQ(functions.Call(Member("RangeNameMultiTab"), {"B", "c"}), Variant("B__c"));
@@ -56,7 +56,7 @@ TEST(ExcelFunctionsObject, AnswersByName) {
 
 TEST(DllPath, IsTheFolderOfTheLibrarysFileWithoutASeparatorBehind) {
   const auto folderOf = [](const char* file) {
-    return ExcelFunctions(std::make_shared<FixedSystem>(file)).DllPath();
+    return ExcelFunctions(std::make_shared<FixedSystem>(file), nullptr).DllPath();
   };
   EXPECT_EQ(folderOf("/opt/rangewerks/lib/librangewerks.so"), "/opt/rangewerks/lib");
   EXPECT_EQ(folderOf("C:\\Program Files\\Rangewerks\\Rangewerks.dll"),
@@ -64,7 +64,7 @@ TEST(DllPath, IsTheFolderOfTheLibrarysFileWithoutASeparatorBehind) {
 }
 
 TEST(DllPath, WithoutASystemIsAClearFailure) {
-  const automation::Error error = ErrorOf([] { (void)ExcelFunctions(nullptr).DllPath(); });
+  const automation::Error error = ErrorOf([] { (void)ExcelFunctions(nullptr, nullptr).DllPath(); });
   EXPECT_EQ(error.Number(), 53);
   EXPECT_THAT(error.Source(), MatchesRegex("Line No\\.: [0-9]+ DllPath of Class Module "
                                            "ExcelFunctions Line#:[0-9]+"));

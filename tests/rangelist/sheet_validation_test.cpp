@@ -225,7 +225,7 @@ TEST_F(SheetValidation, TheHostIsAskedForColumnsAndRowsAndNoCell) {
 TEST_F(SheetValidation, IsReachedByNameOnTheListAndOnTheGlobalObject) {
   Place("a", hdiDetail, "$A$1:$A$2");
   EXPECT_EQ(Object(list).Call(Member("ValidateRanges")), Variant(true));
-  const Object functions(std::make_shared<ExcelFunctions>(nullptr));
+  const Object functions(std::make_shared<ExcelFunctions>(nullptr, nullptr));
   EXPECT_EQ(functions.Call(Member("ValidateRanges"), {list, Object(list->get_ActSheet())}),
             Variant(true));
   EXPECT_EQ(functions.Call(Member("ValidRangeForBrowse"), {Object(Cells("A1"))}), Variant(true));

@@ -50,7 +50,7 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(clsRangeProperties(nullptr));
   ExpectDescribed(clsColumnStyle(nullptr));
   ExpectDescribed(clsSaveSettings(nullptr));
-  ExpectDescribed(ExcelFunctions(nullptr));
+  ExpectDescribed(ExcelFunctions(nullptr, nullptr));
   ExpectDescribed(ErrorMessageBox(nullptr, nullptr));
   ExpectDescribed(errL100Jrn());
   desktops::UnattendedDesktop desktop;

@@ -1,0 +1,217 @@
+#include "filesave/frmPath.h"
+
+#include <gtest/gtest.h>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "automation/error.h"
+#include "desktops/headless/headless_desktop.h"
+#include "hosts/temporary_folder.h"
+#include "support/error_of.h"
+#include "support/fixed_system.h"
+
+namespace rangewerks::tests {
+namespace {
+
+using desktops::HeadlessDesktop;
+
+class FrmPath : public ::testing::Test {
+ protected:
+  FrmPath() {
+    settings->let_FilePath(folder.File(""));
+    settings->let_Filename("%i-%d");
+    settings->let_DoSaveFile(true);
+    settings->let_PromptOnSave(true);
+    settings->let_Identifier("ID");
+    settings->let_RegSection("Journals");
+    form.set_FileSave(settings);
+  }
+  /// Shows the dialog with the person's part in it.
+  void Show(const std::function<void()>& person) {
+    desktop.WhenShown<frmPath>([&](frmPath&) { person(); });
+    form.Show(forms::Modality::Modal);
+  }
+  void ExpectSettingsAsTheyWere() const {
+    EXPECT_EQ(settings->get_FilePath(), folder.File(""));
+    EXPECT_EQ(settings->get_Filename(), "%i-%d");
+    EXPECT_TRUE(settings->get_DoSaveFile());
+    EXPECT_TRUE(settings->get_PromptOnSave());
+  }
+
+  TemporaryFolder folder;
+  HeadlessDesktop desktop;
+  std::shared_ptr<FixedSystem> system = std::make_shared<FixedSystem>("");
+  std::shared_ptr<clsExcelFileSave> settings = std::make_shared<clsExcelFileSave>(system);
+  frmPath& form = desktop.Shared<frmPath>(system);
+};
+
+TEST_F(FrmPath, HasItsCaptionsAndAccessKeys) {
+  EXPECT_EQ(form.get_Caption(), " Save To File");
+  EXPECT_EQ(form.lblSvfile.get_Caption(), "Save File on Posting");
+  EXPECT_EQ(form.lblPrmtSave.get_Caption(), "Prompt on save");
+  EXPECT_EQ(form.lblPath.get_Caption(), "Default Path");
+  EXPECT_EQ(form.cmdpath.get_Caption(), "...");
+  EXPECT_EQ(form.lblfileformat.get_Caption(), "File Name Format");
+  EXPECT_EQ(form.cmdOk.get_Caption(), "&OK");
+  EXPECT_EQ(form.cmdCancel.get_Caption(), "&Cancel");
+}
+
+TEST_F(FrmPath, HasALegendOfTheCodesThatCantBeChanged) {
+  EXPECT_EQ(form.frmidentifier.Children(), std::vector<forms::Control*>({&form.txtIdentifiers}));
+  EXPECT_EQ(form.txtIdentifiers.get_Text(),
+            "%i   - Identifier\r\n%d  - Day\r\n%m - Month\r\n%y  - Year\r\n%u  - Windows User\r\n");
+  EXPECT_TRUE(form.txtIdentifiers.Properties().multiLine);
+  EXPECT_TRUE(form.txtIdentifiers.Properties().locked);
+}
+
+TEST_F(FrmPath, ShowsTheSettings) {
+  EXPECT_EQ(form.txtPath.get_Text(), folder.File(""));
+  EXPECT_EQ(form.txtIdentifier.get_Text(), "%i-%d");
+  EXPECT_TRUE(form.ChkSvFile.get_Value());
+  EXPECT_TRUE(form.ChkPrmtsv.get_Value());
+}
+
+TEST_F(FrmPath, EnablesTheOtherControlsOnlyWhenFilesAreSaved) {
+  EXPECT_TRUE(form.ChkPrmtsv.get_Enabled());
+  EXPECT_TRUE(form.txtIdentifier.get_Enabled());
+  EXPECT_TRUE(form.txtPath.get_Enabled());
+  form.Unload();
+  settings->let_DoSaveFile(false);
+  EXPECT_FALSE(form.ChkPrmtsv.get_Enabled());
+  EXPECT_FALSE(form.txtIdentifier.get_Enabled());
+  EXPECT_FALSE(form.txtPath.get_Enabled());
+  EXPECT_TRUE(form.cmdpath.get_Enabled());
+}
+
+TEST_F(FrmPath, UntickingSaveDisablesTheOtherControlsAndUnticksPrompt) {
+  Show([&] {
+    desktop.Click(form.ChkSvFile);
+    EXPECT_FALSE(form.ChkPrmtsv.get_Value());
+    EXPECT_FALSE(form.ChkPrmtsv.get_Enabled());
+    EXPECT_FALSE(form.txtIdentifier.get_Enabled());
+    EXPECT_FALSE(form.txtPath.get_Enabled());
+    desktop.Click(form.cmdCancel);
+  });
+}
+
+TEST_F(FrmPath, TickingSaveAgainEnablesTheOthersAndLeavesPromptUnticked) {
+  Show([&] {
+    desktop.Click(form.ChkSvFile);
+    desktop.Click(form.ChkSvFile);
+    EXPECT_FALSE(form.ChkPrmtsv.get_Value());
+    EXPECT_TRUE(form.ChkPrmtsv.get_Enabled());
+    EXPECT_TRUE(form.txtIdentifier.get_Enabled());
+    EXPECT_TRUE(form.txtPath.get_Enabled());
+    desktop.Click(form.cmdCancel);
+  });
+}
+
+TEST_F(FrmPath, OkTakesOverWhatThePersonHasChosen) {
+  Show([&] {
+    desktop.Type(form.txtIdentifier, "J%y%m%d");
+    desktop.Click(form.ChkPrmtsv);
+    desktop.PressEnter(form);
+  });
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_FALSE(form.get_Cancel());
+  EXPECT_EQ(settings->get_Filename(), "J%y%m%d");
+  EXPECT_EQ(settings->get_FilePath(), folder.File(""));
+  EXPECT_TRUE(settings->get_DoSaveFile());
+  EXPECT_FALSE(settings->get_PromptOnSave());
+  EXPECT_EQ(settings->get_Identifier(), "ID");
+  EXPECT_EQ(settings->get_RegSection(), "Journals");
+  EXPECT_TRUE(system->Settings()->Writes().empty());
+}
+
+TEST_F(FrmPath, WithoutSavingPassesWithAnEmptyPath) {
+  settings->let_DoSaveFile(false);
+  settings->let_FilePath("");
+  Show([&] { desktop.Click(form.cmdOk); });
+  EXPECT_FALSE(form.get_Cancel());
+  EXPECT_TRUE(desktop.Messages().empty());
+}
+
+TEST_F(FrmPath, StaysOpenWithAFolderThatDoesntExistAndSaysSo) {
+  Show([&] {
+    desktop.Type(form.txtPath, folder.File("none"));
+    desktop.Click(form.cmdOk);
+    EXPECT_TRUE(form.IsVisible());
+    ExpectSettingsAsTheyWere();
+    desktop.Click(form.cmdCancel);
+  });
+  ASSERT_EQ(desktop.Messages().size(), 1U);
+  EXPECT_EQ(desktop.Messages().front().text, "File path not found or access denied");
+  EXPECT_EQ(desktop.Messages().front().flags, 16);
+}
+
+TEST_F(FrmPath, StaysOpenWithoutAPatternAndSaysSo) {
+  Show([&] {
+    desktop.Type(form.txtIdentifier, "");
+    desktop.Click(form.cmdOk);
+    EXPECT_TRUE(form.IsVisible());
+    desktop.Click(form.cmdCancel);
+  });
+  ASSERT_EQ(desktop.Messages().size(), 1U);
+  EXPECT_EQ(desktop.Messages().front().text, "File name or file path missing");
+}
+
+TEST_F(FrmPath, CancelLeavesTheSettingsAsTheyWere) {
+  Show([&] {
+    desktop.Type(form.txtIdentifier, "other");
+    desktop.Type(form.txtPath, "other");
+    desktop.Click(form.ChkSvFile);
+    desktop.PressEscape(form);
+  });
+  EXPECT_TRUE(form.get_Cancel());
+  EXPECT_FALSE(form.IsLoaded());
+  ExpectSettingsAsTheyWere();
+}
+
+TEST_F(FrmPath, ClosingItByItsTitleBarCancels) {
+  Show([&] {
+    desktop.Click(form.ChkSvFile);
+    desktop.Close(form);
+  });
+  EXPECT_TRUE(form.get_Cancel());
+  ExpectSettingsAsTheyWere();
+}
+
+TEST_F(FrmPath, IsNotCancelledWhenItIsCreatedAndOkTakesAnEarlierCancelBack) {
+  EXPECT_FALSE(form.get_Cancel());
+  Show([&] { desktop.Click(form.cmdCancel); });
+  EXPECT_TRUE(form.get_Cancel());
+  Show([&] { desktop.Click(form.cmdOk); });
+  EXPECT_FALSE(form.get_Cancel());
+  form.let_Cancel(true);
+  EXPECT_TRUE(form.get_Cancel());
+}
+
+TEST_F(FrmPath, TakesTheFolderThatThePersonPicks) {
+  Show([&] {
+    desktop.PickFolder("/picked");
+    desktop.Click(form.cmdpath);
+    EXPECT_EQ(form.txtPath.get_Text(), "/picked");
+    desktop.Click(form.cmdCancel);
+  });
+  EXPECT_EQ(desktop.FolderTitles(), std::vector<std::string>({"Please select a folder"}));
+}
+
+TEST_F(FrmPath, CancellingTheFolderDialogKeepsThePathTyped) {
+  Show([&] {
+    desktop.Type(form.txtPath, "typed");
+    desktop.Click(form.cmdpath);
+    EXPECT_EQ(form.txtPath.get_Text(), "typed");
+    desktop.Click(form.cmdCancel);
+  });
+}
+
+TEST_F(FrmPath, CantBeLoadedWithoutSettings) {
+  form.set_FileSave(nullptr);
+  EXPECT_TRUE(ErrorOf([&] { form.Load(); }).Is(automation::ErrorNumber::ObjectVariableNotSet));
+}
+
+}  // namespace
+}  // namespace rangewerks::tests
