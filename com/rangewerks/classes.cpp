@@ -2,6 +2,7 @@
 #include <rangewerks.h>
 
 #include "automation/locale.h"
+#include "browse/clsBrowseDate.h"
 #include "com/bridge/create_object.h"
 #include "com/module/module.h"
 #include "com/rangewerks/interfaces.h"
@@ -14,6 +15,8 @@
 #include "errors/errL100Jrn.h"
 #include "model/clsExInputRange.h"
 #include "model/colExInputRangeList.h"
+#include "platform/clsExcelAbout.h"
+#include "platform/clsRangewerksVer.h"
 #include "rangelist/ExcelFunctions.h"
 #include "rangelist/clsInterfaceRangeList.h"
 #include "sheetbuild/clsColumnStyle.h"
@@ -56,7 +59,8 @@ void Prepare() {
   for (auto interfaceOf :
        {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface, GroupHeadingsInterface,
         RangeListInterface, ExcelFunctionsInterface, RangePropertiesInterface, ColumnStyleInterface,
-        SaveSettingsInterface, ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface}) {
+        SaveSettingsInterface, ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface,
+        BrowseDateInterface, ExcelAboutInterface, RangewerksVerInterface}) {
     Publish(interfaceOf(), *library.Get());
   }
 }
@@ -93,7 +97,7 @@ const Server& TheServer() {
                }},
               {__uuidof(::ExcelFunctions), L"Rangewerks.ExcelFunctions",
                L"Rangewerks routines for sheets",
-               [] { return Object(std::make_shared<ExcelFunctions>(TheSystem())); }},
+               [] { return Object(std::make_shared<ExcelFunctions>(TheSystem(), TheDesktop())); }},
               {__uuidof(::ErrorMessageBox), L"Rangewerks.ErrorMessageBox",
                L"Rangewerks error message box", [] { return Object(NewErrorMessageBox()); }},
               {__uuidof(::errL100Jrn), L"Rangewerks.errL100Jrn",
@@ -103,6 +107,12 @@ const Server& TheServer() {
                [] {
                  return Object(std::make_shared<clsErrorList>(TheDesktop(), NewErrorMessageBox()));
                }},
+              {__uuidof(::clsBrowseDate), L"Rangewerks.clsBrowseDate", L"Rangewerks date browse",
+               [] { return Object(std::make_shared<clsBrowseDate>(TheDesktop(), TheSystem())); }},
+              {__uuidof(::clsExcelAbout), L"Rangewerks.clsExcelAbout", L"Rangewerks about box",
+               [] { return Object(std::make_shared<clsExcelAbout>(TheDesktop(), TheSystem())); }},
+              {__uuidof(::clsRangewerksVer), L"Rangewerks.clsRangewerksVer", L"Rangewerks version",
+               [] { return Object(std::make_shared<clsRangewerksVer>(TheSystem())); }},
           },
       .hasTypeLibrary = true,
       .prepare = &Prepare,

@@ -18,5 +18,8 @@ DualInterface SaveSettingsInterface();
 DualInterface ErrorMessageBoxInterface();
 DualInterface ErrL100JrnInterface();
 DualInterface ErrorListInterface();
+DualInterface BrowseDateInterface();
+DualInterface ExcelAboutInterface();
+DualInterface RangewerksVerInterface();
 
 }  // namespace rangewerks::com

@@ -37,7 +37,8 @@ DualInterface ExcelFunctionsInterface() {
   using I = ::_ExcelFunctions;
   return MakeDualInterface<I, &I::CorrectedSheetName, &I::MultiTabSheetPrefix,
                            &I::RangeNameMultiTab, &I::DllPath, &I::ValidateRanges,
-                           &I::ValidRangeForBrowse, &I::FormatDateRange>("ExcelFunctions");
+                           &I::ValidRangeForBrowse, &I::FormatDateRange, &I::CallSaveSheet>(
+      "ExcelFunctions");
 }
 
 }  // namespace rangewerks::com

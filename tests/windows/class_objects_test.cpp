@@ -37,7 +37,8 @@ TEST_F(ClassObject, IsThereForEachCreatableClass) {
        {__uuidof(::clsInterfaceRangeList), __uuidof(::clsExInputRange),
         __uuidof(::colExInputRangeList), __uuidof(::clsRangeProperties), __uuidof(::clsColumnStyle),
         __uuidof(::clsSaveSettings), __uuidof(::ExcelFunctions), __uuidof(::ErrorMessageBox),
-        __uuidof(::errL100Jrn), __uuidof(::clsErrorList)}) {
+        __uuidof(::errL100Jrn), __uuidof(::clsErrorList), __uuidof(::clsBrowseDate),
+        __uuidof(::clsExcelAbout), __uuidof(::clsRangewerksVer)}) {
     Pointer<IClassFactory> factory;
     ASSERT_EQ(GetClassObject(id, IID_IClassFactory, factory.ReceiveAny()), S_OK);
     Pointer<IDispatch> object;

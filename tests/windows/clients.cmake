@@ -1,6 +1,6 @@
 # The clients of the two DLLs: C++ programs, which load them from where they were built. The contract
 # of hosts is held by what a COM caller gets as well.
-rangewerks_tests(windows com_server desktops_unattended rangelist sheetbuild rangewerks_interfaces hosts_workbook systems_windows)
+rangewerks_tests(windows com_server desktops_unattended rangelist sheetbuild browse rangewerks_interfaces hosts_workbook systems_windows)
 file(GLOB contract CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/hosts/*_contract_test.cpp")
 target_sources(test_windows PRIVATE ${contract})
 add_dependencies(test_windows rangewerks_dll sheethost_dll posting_servers)

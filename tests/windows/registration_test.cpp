@@ -65,6 +65,12 @@ constexpr std::array kClasses = {
                    "Rangewerks object without members"},
     PublishedClass{"{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}", "Rangewerks.clsErrorList",
                    "Rangewerks error list"},
+    PublishedClass{"{55BA9756-276A-4CBD-B8D8-F235A1304C9D}", "Rangewerks.clsBrowseDate",
+                   "Rangewerks date browse"},
+    PublishedClass{"{FF0D88CE-0E3E-4C28-B535-FE48D9770844}", "Rangewerks.clsExcelAbout",
+                   "Rangewerks about box"},
+    PublishedClass{"{158609F7-1220-4094-8E56-0F8B3646CCAA}", "Rangewerks.clsRangewerksVer",
+                   "Rangewerks version"},
 };
 struct PublishedInterface {
   const char* id;
@@ -84,6 +90,9 @@ constexpr std::array kDualInterfaces = {
     PublishedInterface{"{3C266930-6CEF-4557-BCF0-92E30A4AF202}", "_ErrorMessageBox"},
     PublishedInterface{"{85A5D147-95E8-4A41-9E2F-1C9324A3ABC2}", "_errL100Jrn"},
     PublishedInterface{"{C2CCE0EE-CCAD-44E1-A2CC-CB721992DAC1}", "_clsErrorList"},
+    PublishedInterface{"{4A1705DE-A542-4024-A115-37C5D2ED0ED3}", "_clsBrowseDate"},
+    PublishedInterface{"{976B7217-DEF1-40F9-B352-2E9B57D95D20}", "_clsExcelAbout"},
+    PublishedInterface{"{CE3AFD33-8651-4E95-92E1-0ACBC5E7D287}", "_clsRangewerksVer"},
 };
 constexpr const char* kEventsProxy = "{00020420-0000-0000-C000-000000000046}";
 constexpr std::array kEvents = {

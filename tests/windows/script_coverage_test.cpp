@@ -35,6 +35,9 @@ const std::map<std::string, std::string> kVariables = {
     {"_ErrorMessageBox", "box"},
     {"_errL100Jrn", "marker"},
     {"_clsErrorList", "errors"},
+    {"_clsBrowseDate", "browse"},
+    {"_clsExcelAbout", "about"},
+    {"_clsRangewerksVer", "version"},
 };
 
 std::vector<std::string> LinesOfScripts() {

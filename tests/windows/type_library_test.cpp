@@ -6,6 +6,7 @@
 #include <utility>
 #include <vector>
 
+#include "browse/clsBrowseDate.h"
 #include "com/bridge/text.h"
 #include "desktops/unattended/unattended_desktop.h"
 #include "errors/ErrorMessageBox.h"
@@ -14,6 +15,8 @@
 #include "model/clsExInputRange.h"
 #include "model/colExInputRangeList.h"
 #include "model/colGroupHeadings.h"
+#include "platform/clsExcelAbout.h"
+#include "platform/clsRangewerksVer.h"
 #include "rangelist/ExcelFunctions.h"
 #include "rangelist/RangewerksErrors.h"
 #include "rangelist/clsInterfaceRangeList.h"
@@ -54,6 +57,9 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(ErrorMessageBox(nullptr, nullptr));
   ExpectDescribed(errL100Jrn());
   desktops::UnattendedDesktop desktop;
+  ExpectDescribed(clsBrowseDate(nullptr, nullptr));
+  ExpectDescribed(clsExcelAbout(nullptr, nullptr));
+  ExpectDescribed(clsRangewerksVer(nullptr));
   ExpectDescribed(clsErrorList(std::shared_ptr<forms::Toolkit>(&desktop, [](auto*) {}), nullptr));
 }
 
@@ -149,14 +155,18 @@ TEST(TypeLibrary, TellsWhichClassesAClientCanCreateAndWhichAreGlobal) {
                   "ExcelFunctions: global creatable default _ExcelFunctions",
                   "ErrorMessageBox: global creatable default _ErrorMessageBox",
                   "errL100Jrn: global creatable default _errL100Jrn",
-                  "clsErrorList: creatable default _clsErrorList default source __clsErrorList"));
+                  "clsErrorList: creatable default _clsErrorList default source __clsErrorList",
+                  "clsBrowseDate: creatable default _clsBrowseDate",
+                  "clsExcelAbout: creatable default _clsExcelAbout",
+                  "clsRangewerksVer: global creatable default _clsRangewerksVer"));
 }
 
 TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
   for (const char* name :
        {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange", "_colExInputRangeList",
         "_clsInterfaceRangeList", "_clsRangeProperties", "_clsColumnStyle", "_clsSaveSettings",
-        "_ExcelFunctions", "_ErrorMessageBox", "_errL100Jrn", "_clsErrorList"}) {
+        "_ExcelFunctions", "_ErrorMessageBox", "_errL100Jrn", "_clsErrorList", "_clsBrowseDate",
+        "_clsExcelAbout", "_clsRangewerksVer"}) {
     const auto view = TableViewOf(*TypeNamed(name).Get());
     TypeAttributes attributes(*view.Get());
     view->GetTypeAttr(attributes.Receive());
@@ -292,6 +302,9 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("_ErrorMessageBox", "{3C266930-6CEF-4557-BCF0-92E30A4AF202}"),
                           Pair("_errL100Jrn", "{85A5D147-95E8-4A41-9E2F-1C9324A3ABC2}"),
                           Pair("_clsErrorList", "{C2CCE0EE-CCAD-44E1-A2CC-CB721992DAC1}"),
+                          Pair("_clsBrowseDate", "{4A1705DE-A542-4024-A115-37C5D2ED0ED3}"),
+                          Pair("_clsExcelAbout", "{976B7217-DEF1-40F9-B352-2E9B57D95D20}"),
+                          Pair("_clsRangewerksVer", "{CE3AFD33-8651-4E95-92E1-0ACBC5E7D287}"),
                           Pair("__clsInterfaceRangeList", "{823CBCD1-3B30-4061-8544-84BB2F5E23F9}"),
                           Pair("__clsErrorList", "{0BDE0CAB-B365-45FA-80F1-B3740D75BE69}"),
                           Pair("clsRangeGroupHeading", "{57A505C8-0DAA-43EA-89B8-5B682761AACA}"),
@@ -305,7 +318,10 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}"),
                           Pair("ErrorMessageBox", "{C4CEEC56-BC5B-42C9-8C97-0230704DA14B}"),
                           Pair("errL100Jrn", "{E36C2DB5-1A2D-4E2C-99EB-20A0667718AE}"),
-                          Pair("clsErrorList", "{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}")));
+                          Pair("clsErrorList", "{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}"),
+                          Pair("clsBrowseDate", "{55BA9756-276A-4CBD-B8D8-F235A1304C9D}"),
+                          Pair("clsExcelAbout", "{FF0D88CE-0E3E-4C28-B535-FE48D9770844}"),
+                          Pair("clsRangewerksVer", "{158609F7-1220-4094-8E56-0F8B3646CCAA}")));
 }
 
 TEST(TypeLibrary, DescribesEveryTypeInWords) {
@@ -315,7 +331,7 @@ TEST(TypeLibrary, DescribesEveryTypeInWords) {
   library->GetDocumentation(-1, name.Receive(), help.Receive(), nullptr, nullptr);
   EXPECT_EQ(name.Text(), "Rangewerks");
   EXPECT_EQ(help.Text(), "Rangewerks");
-  EXPECT_EQ(library->GetTypeInfoCount(), 30U);  // 4 enumerations, 14 interfaces, 12 classes
+  EXPECT_EQ(library->GetTypeInfoCount(), 36U);  // 4 enumerations, 17 interfaces, 15 classes
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     library->GetDocumentation(static_cast<INT>(i), name.Receive(), help.Receive(), nullptr,
                               nullptr);
