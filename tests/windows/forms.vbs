@@ -76,4 +76,4 @@ shell.RegWrite settingsKey & "PromptOnSave", 0, "REG_DWORD"
 shell.RegWrite settingsKey & "File", "C:\no such folder", "REG_SZ"
 functions.CallSaveSheet sheet, "JNL0042", "Rangewerks script tests"
 CheckEqual "a copy that can't be written isn't told to the caller", Err.Number, 0
-shell.RegDelete settingsKey
+shell.RegWrite settingsKey & "DoSaveFile", 0, "REG_DWORD"
