@@ -9,16 +9,15 @@
 namespace rangewerks {
 
 using automation::Locale;
-using automation::Variant;
 using platform::Registry;
 
 namespace {
 
-const std::string kProgramKey = "SOFTWARE\\Microsoft\\Shared Tools\\MSINFO";
+const std::string kProgramKey = R"(SOFTWARE\Microsoft\Shared Tools\MSINFO)";
 const std::string kProgramValue = "PATH";
-const std::string kFolderKey = "SOFTWARE\\Microsoft\\Shared Tools Location";
+const std::string kFolderKey = R"(SOFTWARE\Microsoft\Shared Tools Location)";
 const std::string kFolderValue = "MSINFO";
-const std::string kProgramInFolder = "\\MSINFO32.EXE";
+const std::string kProgramInFolder = R"(\MSINFO32.EXE)";
 constexpr std::size_t kLongestValue = 1024;
 
 /// The number whose bytes these are, from the lowest, as decimal text. Each byte is written with as
@@ -26,8 +25,8 @@ constexpr std::size_t kLongestValue = 1024;
 std::string NumberText(std::string_view bytes) {
   static constexpr std::string_view kDigits = "0123456789ABCDEF";
   std::string digits = "&h";
-  for (auto byte = bytes.rbegin(); byte != bytes.rend(); ++byte) {
-    const auto value = static_cast<unsigned char>(*byte);
+  for (const char byte : std::string(bytes.rbegin(), bytes.rend())) {
+    const auto value = static_cast<unsigned char>(byte);
     if (value >= kDigits.size()) digits += kDigits[value / kDigits.size()];
     digits += kDigits[value % kDigits.size()];
   }
