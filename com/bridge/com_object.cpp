@@ -111,10 +111,21 @@ HRESULT ComObject::Query(REFIID iid, void** object) noexcept {
     if (!connectionPoints_) connectionPoints_ = std::make_unique<ConnectionPoints>(*this);
     *object = connectionPoints_.get();
   } else {
-    return E_NOINTERFACE;
+    *object = TryFindMore(iid);
   }
+  if (*object == nullptr) return E_NOINTERFACE;
   AddReference();
   return S_OK;
+}
+
+IUnknown* ComObject::TryFindMore(REFIID iid) noexcept {
+  if (published_ == nullptr || published_->more == nullptr) return nullptr;
+  try {
+    if (!more_) more_ = published_->more(*Dispatch(), core_);
+    return more_->TryFind(iid);
+  } catch (...) {
+    return nullptr;  // a query says only whether the interface is there
+  }
 }
 
 HRESULT ComObject::TypeInformation(UINT index, ITypeInfo** information) const noexcept {

@@ -21,7 +21,8 @@ class ConnectionPoint;
 
 /// One for each object that COM holds; lives as long as COM holds a reference, and keeps the object
 /// alive. Answers to IUnknown, IDispatch and the dual interface of a published class through one
-/// pointer, and to ISupportErrorInfo, IProvideClassInfo2 and IConnectionPointContainer.
+/// pointer, to ISupportErrorInfo, IProvideClassInfo2 and IConnectionPointContainer, and to what its
+/// class has beside these.
 class ComObject {
  public:
   /// The one of that object, which COM may hold already. `object` isn't none and not foreign.
@@ -53,6 +54,8 @@ class ComObject {
 
   IDispatch* Dispatch() noexcept { return reinterpret_cast<IDispatch*>(&face_); }
   bool TryAddReference() noexcept;
+  /// One of the class's own interfaces beside the dual one.
+  IUnknown* TryFindMore(REFIID iid) noexcept;
   automation::CallKind KindOf(automation::Member member, WORD flags,
                               const DISPPARAMS& parameters) const;
 
@@ -73,6 +76,7 @@ class ComObject {
   std::unique_ptr<ErrorSupport> errorSupport_;
   std::unique_ptr<ClassInformation> classInformation_;
   std::unique_ptr<ConnectionPoints> connectionPoints_;
+  std::unique_ptr<MoreInterfaces> more_;
 };
 
 }  // namespace rangewerks::com

@@ -14,6 +14,7 @@
 #include <vector>
 
 #include "com/bridge/dual_slots.h"
+#include "com/bridge/more_interfaces.h"
 #include "com/bridge/owners.h"
 
 namespace rangewerks::com {
@@ -22,6 +23,7 @@ struct DualInterface {
   std::string className;
   IID iid;
   std::vector<const void*> slots;  ///< with those of IDispatch in front
+  MoreInterfacesMaker more = nullptr;
 
   // From the type library:
   Pointer<ITypeInfo> members;  ///< the interface as callers that bind late see it
@@ -35,7 +37,7 @@ template <class Interface, auto... Members>
 DualInterface MakeDualInterface(std::string className) {
   auto slots = DispatchSlots();
   AppendSlots<Members...>(slots, std::make_index_sequence<sizeof...(Members)>());
-  return {std::move(className), __uuidof(Interface), std::move(slots), {}, {}, {}};
+  return {std::move(className), __uuidof(Interface), std::move(slots), nullptr, {}, {}, {}};
 }
 
 /// From now on objects of that class have the interface, and the type information that `library`
