@@ -36,11 +36,11 @@ class Control final : public MoreInterfaces {
   ControlParts parts_;
   ActiveObject active_{parts_};
   InPlace inPlace_{parts_, active_};
-  OleObject oleObject_{parts_, inPlace_};
+  StoredProperties stored_{parts_};
+  OleObject oleObject_{parts_, inPlace_, stored_};
   InPlaceObject inPlaceObject_{parts_, inPlace_};
   OleControl oleControl_{parts_};
   ViewObject view_{parts_};
-  StoredProperties stored_{parts_};
   PersistStream stream_{parts_, stored_};
   PersistBag bag_{parts_, stored_};
 };

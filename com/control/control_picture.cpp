@@ -1,7 +1,10 @@
 #include "com/control/control_picture.h"
 
+#include <algorithm>
 #include <memory>
 #include <type_traits>
+
+#include "com/bridge/failures.h"
 
 namespace rangewerks::com {
 
@@ -15,6 +18,26 @@ struct BitmapDeleter {
 };
 using OwnedDevice = std::unique_ptr<std::remove_pointer_t<HDC>, DeviceDeleter>;
 using OwnedBitmap = std::unique_ptr<std::remove_pointer_t<HBITMAP>, BitmapDeleter>;
+
+/// A device in memory with an area of pixels. Raises the system's failure.
+class Canvas {
+ public:
+  Canvas(HDC like, int width, int height)
+      : device_(CreateCompatibleDC(like)), bitmap_(CreateCompatibleBitmap(like, width, height)) {
+    if (device_ == nullptr || bitmap_ == nullptr) throw FailureOf(E_OUTOFMEMORY);
+    before_ = SelectObject(device_.get(), bitmap_.get());
+  }
+  Canvas(const Canvas&) = delete;
+  Canvas& operator=(const Canvas&) = delete;
+  ~Canvas() { SelectObject(device_.get(), before_); }
+
+  HDC Device() const { return device_.get(); }
+
+ private:
+  OwnedDevice device_;
+  OwnedBitmap bitmap_;
+  HGDIOBJ before_ = nullptr;
+};
 
 /// A state of a device that is put back at the end.
 class SavedState {
@@ -52,20 +75,29 @@ void DrawBorder(HWND window, HDC device, RECT place) {
   }
 }
 
+/// The inside of a window by itself. It is asked on a device of its own, with its corner at (0, 0):
+/// some windows take the pixels of the device for those of their own. Those that don't cover their
+/// ground see what is below.
+void DrawInside(HWND window, HDC device, const RECT& inside) {
+  const int width = inside.right - inside.left;
+  const int height = inside.bottom - inside.top;
+  if (width <= 0 || height <= 0) return;
+  const Canvas canvas(device, width, height);
+  BitBlt(canvas.Device(), 0, 0, width, height, device, inside.left, inside.top, SRCCOPY);
+  const auto target = reinterpret_cast<WPARAM>(canvas.Device());
+  SendMessageW(window, WM_ERASEBKGND, target, 0);
+  SendMessageW(window, WM_PRINTCLIENT, target, PRF_CLIENT | PRF_ERASEBKGND);
+  BitBlt(device, inside.left, inside.top, width, height, canvas.Device(), 0, 0, SRCCOPY);
+}
+
 /// The window itself and then, from the bottom up, those on it. Hidden windows get no WM_PAINT, and
 /// not every WM_PRINT goes down to the children, so each is asked by itself.
 void DrawAll(HWND window, HWND origin, HDC device) {
   DrawBorder(window, device, OuterPlace(window, origin));
   const RECT inside = InnerPlace(window, origin);
+  DrawInside(window, device, inside);
   const SavedState saved(device);
   IntersectClipRect(device, inside.left, inside.top, inside.right, inside.bottom);
-  {
-    const SavedState unmoved(device);
-    OffsetViewportOrgEx(device, inside.left, inside.top, nullptr);
-    SendMessageW(window, WM_ERASEBKGND, reinterpret_cast<WPARAM>(device), 0);
-    SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(device),
-                 PRF_CLIENT | PRF_ERASEBKGND);
-  }
   HWND child = GetWindow(window, GW_CHILD);
   if (child != nullptr) child = GetWindow(child, GW_HWNDLAST);
   for (; child != nullptr; child = GetWindow(child, GW_HWNDPREV)) {
@@ -75,22 +107,19 @@ void DrawAll(HWND window, HWND origin, HDC device) {
 
 }  // namespace
 
-bool DrawWindow(HWND window, HDC target, const RECT& place) {
+void DrawWindow(HWND window, HDC target, const RECT& place) {
   RECT inside{};
   GetClientRect(window, &inside);
   const OwnedDevice screen(CreateDCW(L"DISPLAY", nullptr, nullptr, nullptr));
-  const OwnedDevice device(CreateCompatibleDC(screen.get()));
-  const OwnedBitmap bitmap(CreateCompatibleBitmap(screen.get(), inside.right, inside.bottom));
-  if (device == nullptr || bitmap == nullptr) return false;
-  const SavedState saved(device.get());
-  SelectObject(device.get(), bitmap.get());
-  DrawAll(window, window, device.get());
-  const SavedState targetSaved(target);
-  SetStretchBltMode(target, HALFTONE);
-  SetBrushOrgEx(target, 0, 0, nullptr);
-  return StretchBlt(target, place.left, place.top, place.right - place.left,
-                    place.bottom - place.top, device.get(), 0, 0, inside.right, inside.bottom,
-                    SRCCOPY) != FALSE;
+  const Canvas canvas(screen.get(), std::max<int>(inside.right, 1),
+                      std::max<int>(inside.bottom, 1));
+  DrawAll(window, window, canvas.Device());
+  const int mode = SetStretchBltMode(target, HALFTONE);
+  const BOOL drawn =
+      StretchBlt(target, place.left, place.top, place.right - place.left, place.bottom - place.top,
+                 canvas.Device(), 0, 0, inside.right, inside.bottom, SRCCOPY);
+  SetStretchBltMode(target, mode);
+  if (drawn == FALSE) throw FailureOf(E_FAIL);
 }
 
 }  // namespace rangewerks::com

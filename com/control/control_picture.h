@@ -5,8 +5,8 @@
 
 namespace rangewerks::com {
 
-/// Draws a window with all that stands on it into a rectangle of a device, stretched to fit. False
-/// when the system refuses.
-bool DrawWindow(HWND window, HDC target, const RECT& place);
+/// Draws a window with all that stands on it into a rectangle of a device, stretched to fit. Raises
+/// the failure of a system that refuses.
+void DrawWindow(HWND window, HDC target, const RECT& place);
 
 }  // namespace rangewerks::com

@@ -1,19 +1,28 @@
 #include "com/control/in_place.h"
 
-#include <windows.h>
-// The common controls need what comes before.
-#include <commctrl.h>
-
 namespace rangewerks::com {
 
 namespace {
 
-constexpr UINT_PTR kWatch = 1;
+// The control of a window that is watched. The functions for this in the common controls are there
+// under their names only in programs that ask for the newest of them.
+constexpr const wchar_t* kWatcher = L"Rangewerks.InPlace";
 
 }  // namespace
 
-InPlace::~InPlace() {
-  if (window_ != nullptr) RemoveWindowSubclass(window_, &Watch, kWatch);
+InPlace::~InPlace() { EndWatch(); }
+
+void InPlace::BeginWatch() {
+  SetPropW(window_, kWatcher, this);
+  watched_ = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&Watch)));
+}
+
+void InPlace::EndWatch() {
+  if (window_ == nullptr || watched_ == nullptr) return;
+  RemovePropW(window_, kWatcher);
+  SetWindowLongPtrW(window_, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(watched_));
+  watched_ = nullptr;
 }
 
 void InPlace::Activate() {
@@ -32,7 +41,7 @@ void InPlace::Activate() {
   try {
     parts_.form.StandIn(container, place);
     window_ = parts_.form.Window();
-    SetWindowSubclass(window_, &Watch, kWatch, reinterpret_cast<DWORD_PTR>(this));
+    BeginWatch();
     SetPlace(place, clip);
   } catch (...) {
     Deactivate();
@@ -70,7 +79,7 @@ void InPlace::Deactivate() {
   DeactivateUserInterface();
   const Pointer<IOleInPlaceSite> site = site_;
   if (window_ != nullptr) {
-    RemoveWindowSubclass(window_, &Watch, kWatch);
+    EndWatch();
     SetWindowRgn(window_, nullptr, FALSE);
     parts_.form.Rest();
   }
@@ -101,21 +110,23 @@ void InPlace::SetPlace(const RECT& place, const RECT& clip) {
   SetWindowRgn(window_, region, TRUE);  // which owns it from now on
 }
 
-LRESULT CALLBACK InPlace::Watch(HWND window, UINT message, WPARAM first, LPARAM second,
-                                UINT_PTR /*id*/, DWORD_PTR self) {
-  auto& place = *reinterpret_cast<InPlace*>(self);
+LRESULT CALLBACK InPlace::Watch(HWND window, UINT message, WPARAM first, LPARAM second) {
+  auto* place = static_cast<InPlace*>(GetPropW(window, kWatcher));
+  if (place == nullptr) return DefWindowProcW(window, message, first, second);
+  const WNDPROC watched = place->watched_;
   if (message == WM_MOUSEACTIVATE || message == WM_SETFOCUS) {
     // The person has come by a click, or the container by the keyboard.
+    const Pointer<IUnknown> keep(&place->parts_.whole);
     Guarded([&] {
-      place.ActivateUserInterface(Focus::Leave);
+      place->ActivateUserInterface(Focus::Leave);
       return S_OK;
     });
   } else if (message == WM_NCDESTROY) {
     // The container has let its window go with ours in it.
-    RemoveWindowSubclass(window, &Watch, kWatch);
-    place.WindowIsGone();
+    place->EndWatch();
+    place->WindowIsGone();
   }
-  return DefSubclassProc(window, message, first, second);
+  return CallWindowProcW(watched, window, message, first, second);
 }
 
 }  // namespace rangewerks::com

@@ -32,8 +32,9 @@ class InPlace {
   void SetPlace(const RECT& place, const RECT& clip);
 
  private:
-  static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM first, LPARAM second, UINT_PTR id,
-                                DWORD_PTR self);
+  void BeginWatch();
+  void EndWatch();
+  static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM first, LPARAM second);
   void WindowIsGone();
 
   ControlParts& parts_;
@@ -42,6 +43,7 @@ class InPlace {
   Pointer<IOleInPlaceFrame> frame_;
   Pointer<IOleInPlaceUIWindow> document_;
   HWND window_ = nullptr;
+  WNDPROC watched_ = nullptr;  // what the window does by itself
   bool hasUserInterface_ = false;
 };
 

@@ -10,8 +10,8 @@ const DWORD kControlStatus = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE 
                              OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
                              OLEMISC_SETCLIENTSITEFIRST;
 
-OleObject::OleObject(ControlParts& parts, InPlace& inPlace)
-    : Face(parts.whole), parts_(parts), inPlace_(inPlace) {}
+OleObject::OleObject(ControlParts& parts, InPlace& inPlace, const StoredProperties& stored)
+    : Face(parts.whole), parts_(parts), inPlace_(inPlace), stored_(stored) {}
 
 HRESULT OleObject::SetClientSite(IOleClientSite* site) noexcept {
   return Guarded([&] {
@@ -33,7 +33,8 @@ HRESULT OleObject::SetHostNames(LPCOLESTR /*program*/, LPCOLESTR /*object*/) noe
 
 HRESULT OleObject::Close(DWORD save) noexcept {
   return Guarded([&] {
-    if (save != OLECLOSE_NOSAVE && parts_.site) parts_.site->SaveObject();
+    const bool toSave = save != OLECLOSE_NOSAVE && stored_.HasChanged();
+    if (toSave && parts_.site) parts_.site->SaveObject();
     inPlace_.Deactivate();
     if (listeners_) listeners_->SendOnClose();
     return S_OK;

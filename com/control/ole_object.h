@@ -3,12 +3,13 @@
 
 #include "com/control/control_parts.h"
 #include "com/control/in_place.h"
+#include "com/control/stored_properties.h"
 
 namespace rangewerks::com {
 
 class OleObject final : public Face<IOleObject> {
  public:
-  OleObject(ControlParts& parts, InPlace& inPlace);
+  OleObject(ControlParts& parts, InPlace& inPlace, const StoredProperties& stored);
 
   HRESULT STDMETHODCALLTYPE SetClientSite(IOleClientSite* site) noexcept override;
   HRESULT STDMETHODCALLTYPE GetClientSite(IOleClientSite** site) noexcept override;
@@ -38,6 +39,7 @@ class OleObject final : public Face<IOleObject> {
  private:
   ControlParts& parts_;
   InPlace& inPlace_;
+  const StoredProperties& stored_;
   Pointer<IOleAdviseHolder> listeners_;
 };
 

@@ -12,7 +12,8 @@ HRESULT ViewObject::Draw(DWORD aspect, LONG /*index*/, void* /*aspectData*/,
   if (place == nullptr) return E_INVALIDARG;
   return Guarded([&] {
     const RECT bounds{place->left, place->top, place->right, place->bottom};
-    return DrawWindow(parts_.form.Window(), device, bounds) ? S_OK : E_FAIL;
+    DrawWindow(parts_.form.Window(), device, bounds);
+    return S_OK;
   });
 }
 

@@ -4,7 +4,9 @@
 #include "automation/locale.h"
 #include "browse/clsBrowseDate.h"
 #include "com/bridge/create_object.h"
+#include "com/control/control.h"
 #include "com/module/module.h"
+#include "com/rangewerks/colour_pallet_control.h"
 #include "com/rangewerks/interfaces.h"
 #include "com/server/server.h"
 #include "com/server/type_library.h"
@@ -60,7 +62,7 @@ void Prepare() {
        {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface, GroupHeadingsInterface,
         RangeListInterface, ExcelFunctionsInterface, RangePropertiesInterface, ColumnStyleInterface,
         SaveSettingsInterface, ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface,
-        BrowseDateInterface, ExcelAboutInterface, RangewerksVerInterface}) {
+        BrowseDateInterface, ExcelAboutInterface, RangewerksVerInterface, ColourPalletInterface}) {
     Publish(interfaceOf(), *library.Get());
   }
 }
@@ -113,6 +115,8 @@ const Server& TheServer() {
                [] { return Object(std::make_shared<clsExcelAbout>(TheDesktop(), TheSystem())); }},
               {__uuidof(::clsRangewerksVer), L"Rangewerks.clsRangewerksVer", L"Rangewerks version",
                [] { return Object(std::make_shared<clsRangewerksVer>(TheSystem())); }},
+              {__uuidof(::ctlColourPallet), L"Rangewerks.ctlColourPallet",
+               L"Rangewerks colour panel", &MakeColourPallet, kControlStatus},
           },
       .hasTypeLibrary = true,
       .prepare = &Prepare,

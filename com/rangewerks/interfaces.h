@@ -21,5 +21,6 @@ DualInterface ErrorListInterface();
 DualInterface BrowseDateInterface();
 DualInterface ExcelAboutInterface();
 DualInterface RangewerksVerInterface();
+DualInterface ColourPalletInterface();
 
 }  // namespace rangewerks::com

@@ -1,6 +1,7 @@
 // The slots of what placing a range takes, in the order of their member tables.
 #include <rangewerks.h>
 
+#include "com/rangewerks/colour_pallet_control.h"
 #include "com/rangewerks/interfaces.h"
 
 namespace rangewerks::com {
@@ -37,6 +38,17 @@ DualInterface SaveSettingsInterface() {
       &I::put_ColumnHeading, &I::get_ColumnFormat, &I::put_ColumnFormat, &I::get_ToolTips,
       &I::put_ToolTips, &I::get_LengthValidation, &I::put_LengthValidation, &I::get_RangeWithColors,
       &I::put_RangeWithColors, &I::SaveSettings, &I::LoadSettings>("clsSaveSettings");
+}
+
+DualInterface ColourPalletInterface() {
+  using I = ::_ctlColourPallet;
+  DualInterface panel =
+      MakeDualInterface<I, &I::get_HeadingColour, &I::put_HeadingColour, &I::get_ColumnColour,
+                        &I::put_ColumnColour, &I::LoadColours, &I::NameOfTheFrame,
+                        &I::EnableControl, &I::EnableTxtClmColour, &I::EnableTxtHeadColour,
+                        &I::Framelength>("ctlColourPallet");
+  panel.more = &ControlOfColourPallet;
+  return panel;
 }
 
 }  // namespace rangewerks::com

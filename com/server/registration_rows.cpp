@@ -114,6 +114,16 @@ void AddClass(const ServedClass& served, const std::wstring& file, std::vector<R
   rows.push_back({served.progId + L"\\CLSID", L"", id, true});
 }
 
+void AddControl(const ServedClass& served, const std::wstring& file,
+                std::vector<RegistryRow>& rows) {
+  const std::wstring key = L"CLSID\\" + Braced(served.id);
+  rows.push_back({key + L"\\Control", L"", L""});
+  // None for the aspects in general, these for the content.
+  rows.push_back({key + L"\\MiscStatus", L"", L"0"});
+  rows.push_back({key + L"\\MiscStatus\\1", L"", std::to_wstring(served.controlStatus)});
+  rows.push_back({key + L"\\ToolboxBitmap32", L"", file + L", " + std::to_wstring(kToolboxBitmap)});
+}
+
 }  // namespace
 
 std::wstring ServerKey(const ServedClass& served) {
@@ -127,6 +137,7 @@ std::vector<RegistryRow> RegistrationRows(const Server& server) {
   if (server.hasTypeLibrary) library = AddTypeLibrary(*ModuleTypeLibrary().Get(), file, rows);
   for (const ServedClass& served : server.classes) {
     AddClass(served, file, rows);
+    if (served.controlStatus != 0) AddControl(served, file, rows);
     if (!server.hasTypeLibrary) continue;
     const std::wstring key = L"CLSID\\" + Braced(served.id);
     rows.push_back({key + L"\\TypeLib", L"", library.id});

@@ -17,12 +17,17 @@
 
 namespace rangewerks::com {
 
+inline constexpr int kToolboxBitmap = 101;
+
 /// A class that a client can create.
 struct ServedClass {
   CLSID id;
   std::wstring progId;
   std::wstring name;  ///< as people see it
   automation::Object (*create)();
+  /// For a control, how a container should treat it: the flags of OLEMISC. 0 for other classes. The
+  /// bitmap of a control for toolboxes is the DLL's resource kToolboxBitmap.
+  DWORD controlStatus = 0;
 };
 
 struct Server {

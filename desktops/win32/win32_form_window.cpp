@@ -85,7 +85,8 @@ void Win32FormWindow::MakeAll() {
   }
   MakeControls(form_, window_);
   for (const auto& control : controls_) control->ApplyAll();
-  keys_.emplace(window_, *this);
+  // Inside another program's window it is that program which gives and takes the keyboard.
+  if (!embedded) keys_.emplace(window_, *this);
 }
 
 void Win32FormWindow::MakeControls(const forms::Container& container, HWND parent) {

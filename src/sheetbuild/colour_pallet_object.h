@@ -16,6 +16,7 @@ class ColourPalletObject final : public automation::AutomationClass {
   explicit ColourPalletObject(std::shared_ptr<ctlColourPallet> panel) : panel_(std::move(panel)) {}
 
   const automation::MemberTable& Members() const override;
+  ctlColourPallet& Panel() const { return *panel_; }
 
   std::int32_t get_HeadingColour() const { return panel_->get_HeadingColour(); }
   void let_HeadingColour(std::int32_t value) { panel_->let_HeadingColour(value); }

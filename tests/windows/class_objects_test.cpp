@@ -38,7 +38,7 @@ TEST_F(ClassObject, IsThereForEachCreatableClass) {
         __uuidof(::colExInputRangeList), __uuidof(::clsRangeProperties), __uuidof(::clsColumnStyle),
         __uuidof(::clsSaveSettings), __uuidof(::ExcelFunctions), __uuidof(::ErrorMessageBox),
         __uuidof(::errL100Jrn), __uuidof(::clsErrorList), __uuidof(::clsBrowseDate),
-        __uuidof(::clsExcelAbout), __uuidof(::clsRangewerksVer)}) {
+        __uuidof(::clsExcelAbout), __uuidof(::clsRangewerksVer), __uuidof(::ctlColourPallet)}) {
     Pointer<IClassFactory> factory;
     ASSERT_EQ(GetClassObject(id, IID_IClassFactory, factory.ReceiveAny()), S_OK);
     Pointer<IDispatch> object;

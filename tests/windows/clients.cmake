@@ -18,9 +18,15 @@ target_compile_definitions(test_windows PRIVATE
 # And scripts, each a test of its own. The runner finds the DLLs of this build by its folder.
 if(CMAKE_CROSSCOMPILING)
   file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/windows/*.vbs")
+  set(on_a_desktop colour_pallet)  # what they call makes windows
   foreach(script ${scripts})
     cmake_path(GET script STEM name)
-    add_test(NAME windows_${name} COMMAND "${PROJECT_SOURCE_DIR}/tools/wine-test-script" "${script}")
+    set(on "")
+    if(name IN_LIST on_a_desktop)
+      set(on --desktop)
+    endif()
+    add_test(NAME windows_${name}
+      COMMAND "${PROJECT_SOURCE_DIR}/tools/wine-test-script" ${on} "${script}")
     set_tests_properties(windows_${name} PROPERTIES
       ENVIRONMENT "RANGEWERKS_BUILD=${PROJECT_BINARY_DIR}" TIMEOUT 180)
   endforeach()
@@ -34,4 +40,15 @@ if(CMAKE_CROSSCOMPILING)
     COMMAND ${prints} "${PROJECT_SOURCE_DIR}/tools/wine-run" "$<TARGET_FILE:posting>")
   set_tests_properties(windows_sample_vbs windows_sample_cpp PROPERTIES
     ENVIRONMENT "RANGEWERKS_BUILD=${PROJECT_BINARY_DIR}" TIMEOUT 180)
+endif()
+
+# A container of controls, on a display of its own.
+rangewerks_tests(control com_bridge forms rangewerks_interfaces gdi32)
+target_sources(test_control PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_person.cpp")
+target_compile_definitions(test_control PRIVATE
+  RANGEWERKS_SAMPLE_PROGRAM="${root}$<TARGET_FILE_DIR:posting>")
+add_dependencies(test_control posting_servers)
+if(CMAKE_CROSSCOMPILING)
+  get_target_property(desktop test_desktops CROSSCOMPILING_EMULATOR)
+  set_target_properties(test_control PROPERTIES CROSSCOMPILING_EMULATOR "${desktop}")
 endif()

@@ -28,6 +28,11 @@ std::string TextOf(const std::filesystem::path& file) {
   return {std::istreambuf_iterator<char>(stream), {}};
 }
 
+/// How a container treats a control, which no type library says.
+constexpr const char* kControl =
+    " miscStatusContent=\"recomposeonresize,cantlinkinside,insideout,activatewhenvisible,"
+    "setclientsitefirst\"";
+
 /// The manifest that the type library demands: each class that can be created with its ProgID, each
 /// interface with the proxy that registering gives it.
 class DemandedManifest {
@@ -71,7 +76,8 @@ class DemandedManifest {
     if (attributes->typekind == TKIND_COCLASS &&
         (attributes->wTypeFlags & TYPEFLAG_FCANCREATE) != 0) {
       classes_ += "    <comClass clsid=\"" + id + "\" progid=\"Rangewerks." + name +
-                  "\" threadingModel=\"Apartment\" tlbid=\"" + library_ + "\"/>\n";
+                  "\" threadingModel=\"Apartment\" tlbid=\"" + library_ + "\"" +
+                  ((attributes->wTypeFlags & TYPEFLAG_FCONTROL) != 0 ? kControl : "") + "/>\n";
     } else if (attributes->typekind == TKIND_DISPATCH || attributes->typekind == TKIND_INTERFACE) {
       const bool isDual = (attributes->wTypeFlags & TYPEFLAG_FDUAL) != 0;
       interfaces_ += "  <comInterfaceExternalProxyStub name=\"" + name + "\" iid=\"" + id +

@@ -71,7 +71,10 @@ constexpr std::array kClasses = {
                    "Rangewerks about box"},
     PublishedClass{"{158609F7-1220-4094-8E56-0F8B3646CCAA}", "Rangewerks.clsRangewerksVer",
                    "Rangewerks version"},
+    PublishedClass{"{69B45F30-D39B-48AA-B5FC-FC4EC6C6E1FF}", "Rangewerks.ctlColourPallet",
+                   "Rangewerks colour panel"},
 };
+constexpr const PublishedClass& kControl = kClasses.back();
 struct PublishedInterface {
   const char* id;
   const char* name;
@@ -93,6 +96,7 @@ constexpr std::array kDualInterfaces = {
     PublishedInterface{"{4A1705DE-A542-4024-A115-37C5D2ED0ED3}", "_clsBrowseDate"},
     PublishedInterface{"{976B7217-DEF1-40F9-B352-2E9B57D95D20}", "_clsExcelAbout"},
     PublishedInterface{"{CE3AFD33-8651-4E95-92E1-0ACBC5E7D287}", "_clsRangewerksVer"},
+    PublishedInterface{"{5FCAEC6C-3F13-4749-B43E-F49B86A4D777}", "_ctlColourPallet"},
 };
 constexpr const char* kEventsProxy = "{00020420-0000-0000-C000-000000000046}";
 constexpr std::array kEvents = {
@@ -150,6 +154,11 @@ std::vector<std::string> Registered() {
     lines.Value(served.progId, "", served.name);
     lines.Value(std::string(served.progId) + "\\CLSID", "", served.id);
   }
+  const std::string control = std::string("CLSID\\") + kControl.id;
+  lines.Value(control + "\\Control", "", "");
+  lines.Value(control + "\\MiscStatus", "", "0");
+  lines.Value(control + "\\MiscStatus\\1", "", "131473");
+  lines.Value(control + "\\ToolboxBitmap32", "", ServerFile() + ", 101");
   for (const PublishedInterface& dual : kDualInterfaces) AddInterface(dual, kDualProxy, lines);
   for (const PublishedInterface& events : kEvents) AddInterface(events, kEventsProxy, lines);
   return lines.Sorted();

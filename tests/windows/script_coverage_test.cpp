@@ -38,6 +38,7 @@ const std::map<std::string, std::string> kVariables = {
     {"_clsBrowseDate", "browse"},
     {"_clsExcelAbout", "about"},
     {"_clsRangewerksVer", "version"},
+    {"_ctlColourPallet", "panel"},
 };
 
 std::vector<std::string> LinesOfScripts() {

@@ -24,6 +24,7 @@
 #include "sheetbuild/clsColumnStyle.h"
 #include "sheetbuild/clsRangeProperties.h"
 #include "sheetbuild/clsSaveSettings.h"
+#include "sheetbuild/colour_pallet_object.h"
 #include "windows/server_under_test.h"
 #include "windows/type_texts.h"
 
@@ -61,6 +62,7 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(clsExcelAbout(nullptr, nullptr));
   ExpectDescribed(clsRangewerksVer(nullptr));
   ExpectDescribed(clsErrorList(std::shared_ptr<forms::Toolkit>(&desktop, [](auto*) {}), nullptr));
+  ExpectDescribed(ColourPalletObject(nullptr));
 }
 
 TEST(TypeLibrary, TellsASlotInFull) {
@@ -116,6 +118,7 @@ std::string ClassText(ITypeInfo& type) {
   std::string text = NameOfType(type) + ":";
   if ((attributes->wTypeFlags & TYPEFLAG_FAPPOBJECT) != 0) text += " global";
   if ((attributes->wTypeFlags & TYPEFLAG_FCANCREATE) != 0) text += " creatable";
+  if ((attributes->wTypeFlags & TYPEFLAG_FCONTROL) != 0) text += " control";
   for (UINT i = 0; i < attributes->cImplTypes; ++i) {
     HREFTYPE reference = 0;
     INT flags = 0;
@@ -158,7 +161,8 @@ TEST(TypeLibrary, TellsWhichClassesAClientCanCreateAndWhichAreGlobal) {
                   "clsErrorList: creatable default _clsErrorList default source __clsErrorList",
                   "clsBrowseDate: creatable default _clsBrowseDate",
                   "clsExcelAbout: creatable default _clsExcelAbout",
-                  "clsRangewerksVer: global creatable default _clsRangewerksVer"));
+                  "clsRangewerksVer: global creatable default _clsRangewerksVer",
+                  "ctlColourPallet: creatable control default _ctlColourPallet"));
 }
 
 TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
@@ -166,7 +170,7 @@ TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
        {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange", "_colExInputRangeList",
         "_clsInterfaceRangeList", "_clsRangeProperties", "_clsColumnStyle", "_clsSaveSettings",
         "_ExcelFunctions", "_ErrorMessageBox", "_errL100Jrn", "_clsErrorList", "_clsBrowseDate",
-        "_clsExcelAbout", "_clsRangewerksVer"}) {
+        "_clsExcelAbout", "_clsRangewerksVer", "_ctlColourPallet"}) {
     const auto view = TableViewOf(*TypeNamed(name).Get());
     TypeAttributes attributes(*view.Get());
     view->GetTypeAttr(attributes.Receive());
@@ -305,6 +309,7 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("_clsBrowseDate", "{4A1705DE-A542-4024-A115-37C5D2ED0ED3}"),
                           Pair("_clsExcelAbout", "{976B7217-DEF1-40F9-B352-2E9B57D95D20}"),
                           Pair("_clsRangewerksVer", "{CE3AFD33-8651-4E95-92E1-0ACBC5E7D287}"),
+                          Pair("_ctlColourPallet", "{5FCAEC6C-3F13-4749-B43E-F49B86A4D777}"),
                           Pair("__clsInterfaceRangeList", "{823CBCD1-3B30-4061-8544-84BB2F5E23F9}"),
                           Pair("__clsErrorList", "{0BDE0CAB-B365-45FA-80F1-B3740D75BE69}"),
                           Pair("clsRangeGroupHeading", "{57A505C8-0DAA-43EA-89B8-5B682761AACA}"),
@@ -321,7 +326,8 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("clsErrorList", "{9E96988A-4C39-4B2C-AC94-C9BE1BC715A0}"),
                           Pair("clsBrowseDate", "{55BA9756-276A-4CBD-B8D8-F235A1304C9D}"),
                           Pair("clsExcelAbout", "{FF0D88CE-0E3E-4C28-B535-FE48D9770844}"),
-                          Pair("clsRangewerksVer", "{158609F7-1220-4094-8E56-0F8B3646CCAA}")));
+                          Pair("clsRangewerksVer", "{158609F7-1220-4094-8E56-0F8B3646CCAA}"),
+                          Pair("ctlColourPallet", "{69B45F30-D39B-48AA-B5FC-FC4EC6C6E1FF}")));
 }
 
 TEST(TypeLibrary, DescribesEveryTypeInWords) {
@@ -331,7 +337,7 @@ TEST(TypeLibrary, DescribesEveryTypeInWords) {
   library->GetDocumentation(-1, name.Receive(), help.Receive(), nullptr, nullptr);
   EXPECT_EQ(name.Text(), "Rangewerks");
   EXPECT_EQ(help.Text(), "Rangewerks");
-  EXPECT_EQ(library->GetTypeInfoCount(), 36U);  // 4 enumerations, 17 interfaces, 15 classes
+  EXPECT_EQ(library->GetTypeInfoCount(), 38U);  // 4 enumerations, 18 interfaces, 16 classes
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     library->GetDocumentation(static_cast<INT>(i), name.Receive(), help.Receive(), nullptr,
                               nullptr);
