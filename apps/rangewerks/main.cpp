@@ -6,6 +6,7 @@
 #include <iostream>
 #include <map>
 
+#include "apps/rangewerks/browse_command.h"
 #include "apps/rangewerks/clear_command.h"
 #include "apps/rangewerks/failure.h"
 #include "apps/rangewerks/fill_command.h"
@@ -77,21 +78,27 @@ constexpr const char* kPlaceFooter =
     "Exit status: 0 when all was placed, 1 when a validation or message couldn't be added or the\n"
     "layout isn't sound, 2 for wrong usage or files; then nothing is saved.\n";
 
-void AddSheetOptions(CLI::App& command, SheetOptions& options) {
+constexpr const char* kBrowseFooter =
+    "Examples:\n"
+    "  rangewerks browse journal.xlsx --status\n"
+    "  rangewerks browse journal.xlsx --add --save browsed.xlsx\n"
+    "  rangewerks browse journal.xlsm --add --method macro --save browsed.xlsm\n\n"
+    "A workbook with a browse tells the posting program that a right click on a cell may look its\n"
+    "value up (docs/browse.md). The method property marks the workbook with a document property; "
+    "the\n"
+    "method macro writes a Workbook_Open that adds the menu entry, and is refused where the "
+    "workbook\n"
+    "has a Workbook_Open of its own.\n"
+    "Exit status: 0 when all is well, 1 when --status finds no browse, 2 for wrong usage or "
+    "files;\n"
+    "then nothing is saved.\n";
+
+void AddBookOptions(CLI::App& command, SheetOptions& options) {
   static const std::map<std::string, HostKind> hosts = {{"libreoffice", HostKind::LibreOffice},
                                                         {"workbook", HostKind::Workbook}};
-  static const std::map<std::string, OutputForm> forms = {
-      {"table", OutputForm::Table}, {"json", OutputForm::Json}, {"csv", OutputForm::Csv}};
   command.add_option("BOOK", options.book, "The workbook: xlsx, xls, ods, or a JSON workbook file")
       ->required()
       ->type_name("FILE");
-  command
-      .add_option("--interface", options.interfaceFile,
-                  "The interface file: which ranges the sheet should have (docs/interface-file.md)")
-      ->required()
-      ->type_name("FILE");
-  command.add_option("--sheet", options.sheet, "The sheet to work on; default: the one in front")
-      ->type_name("NAME");
   command
       .add_option_function<std::string>(
           "--host", [&options](const std::string& name) { options.host = hosts.at(name); },
@@ -99,6 +106,19 @@ void AddSheetOptions(CLI::App& command, SheetOptions& options) {
           "file); default: by the file's extension")
       ->check(CLI::IsMember(hosts))
       ->type_name("HOST");
+}
+
+void AddSheetOptions(CLI::App& command, SheetOptions& options) {
+  static const std::map<std::string, OutputForm> forms = {
+      {"table", OutputForm::Table}, {"json", OutputForm::Json}, {"csv", OutputForm::Csv}};
+  AddBookOptions(command, options);
+  command
+      .add_option("--interface", options.interfaceFile,
+                  "The interface file: which ranges the sheet should have (docs/interface-file.md)")
+      ->required()
+      ->type_name("FILE");
+  command.add_option("--sheet", options.sheet, "The sheet to work on; default: the one in front")
+      ->type_name("NAME");
   command
       .add_option_function<std::string>(
           "--output", [&options](const std::string& name) { options.output = forms.at(name); },
@@ -142,6 +162,7 @@ class Commands {
                           });
     AddPlaceOptions(*place);
     AddSaveOptions(*place, place_.save);
+    AddBrowse(app);
   }
 
   ExitStatus Run(Console console) const { return run_(console); }
@@ -155,6 +176,37 @@ class Commands {
     command->footer(footer);
     command->callback([this, run] { run_ = run; });
     return command;
+  }
+
+  void AddBrowse(CLI::App& app) {
+    static const std::map<std::string, BrowseMethod> methods = {
+        {"macro", BrowseMethod::Macro}, {"property", BrowseMethod::Property}};
+    CLI::App* browse =
+        app.add_subcommand("browse", "Mark a workbook as having a right-click browse");
+    browse->footer(kBrowseFooter);
+    browse->callback([this] { run_ = [this](Console to) { return RunBrowse(browse_, to); }; });
+    AddBookOptions(*browse, browse_.book);
+    CLI::Option_group* action = browse->add_option_group("What to do");
+    const auto offer = [&](const char* name, BrowseAction chosen, const char* what) {
+      action->add_flag_callback(
+          name, [this, chosen] { browse_.action = chosen; }, what);
+    };
+    offer("--add", BrowseAction::Add, "Give the workbook a browse and save it");
+    offer("--remove", BrowseAction::Remove, "Take the browse from the workbook and save it");
+    offer("--status", BrowseAction::Status, "Tell whether the workbook has a browse");
+    action->require_option(1);
+    browse
+        ->add_option("--component", browse_.component,
+                     "Name of the document property and of the browse's module; default: "
+                     "OstrelBrowseModule")
+        ->type_name("NAME");
+    browse
+        ->add_option_function<std::string>(
+            "--method", [this](const std::string& name) { browse_.method = methods.at(name); },
+            "property (default) or macro")
+        ->check(CLI::IsMember(methods))
+        ->type_name("METHOD");
+    AddSaveOptions(*browse, browse_.save);
   }
 
   void AddClearOptions(CLI::App& clear) {
@@ -208,10 +260,11 @@ class Commands {
   FillOptions fill_;
   ClearOptions clear_;
   PlaceOptions place_;
+  BrowseOptions browse_;
   std::function<ExitStatus(Console)> run_;
 };
 
-constexpr const char* kCommandNames = "read, validate, fill, clear and place";
+constexpr const char* kCommandNames = "read, validate, fill, clear, place and browse";
 
 /// What is wrong with the arguments; CLI11's own words for a missing command name none.
 std::string WordsOf(const CLI::ParseError& error, const CLI::App& app, int argc, char** argv) {

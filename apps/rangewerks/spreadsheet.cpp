@@ -16,6 +16,9 @@ namespace {
 
 class InMemory final : public Spreadsheet {
  public:
+  /// Nobody else is there to trust the command with the macros of its own workbook.
+  InMemory() { host_.TrustVBProject(true); }
+
   automation::Object Open(const std::string& path, Access /*access*/) override {
     return host_.Open(path);
   }

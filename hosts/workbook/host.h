@@ -52,6 +52,8 @@ class Host {
   ///   until then. Nothing adjusts the references in their text.
   /// - Formats, lines, validation rules and conditional formats are kept and told; nothing comes of
   ///   them: entries aren't checked, nor conditions calculated. AutoFit counts characters.
+  /// - Macros are kept as text and never run; menu entries do nothing but tell whoever is connected
+  ///   to them.
   /// - Not there: multiple selections, protection, insertion and deletion of cells, and all of the
   ///   object model that isn't listed in docs/hosts.md; such members raise 438.
   Host();
@@ -86,8 +88,8 @@ class Host {
   void SetInternational(std::int32_t index, const Variant& value);
   /// What Application.Version tells; "16.0" at first.
   void SetVersion(const std::string& version);
-  /// Whether Workbook.VBProject answers as in a program that trusts access to macros: then 438, for
-  /// there are no macros here; else, and at first, 1004.
+  /// Whether Workbook.VBProject answers, as in a program that trusts access to macros; else, and at
+  /// first, it is refused with 1004.
   void TrustVBProject(bool trusted);
   bool TrustsVBProject() const;
   /// Makes Application.Selection a drawn rectangle until cells of the sheet in front are selected.

@@ -16,6 +16,7 @@ const Member kDeleteLines{"DeleteLines"};
 const Member kFind{"Find"};
 const Member kInsertLines{"InsertLines"};
 const Member kItem{"Item"};
+const Member kLines{"Lines"};
 const Member kName{"Name"};
 const Member kProcCountLines{"ProcCountLines"};
 const Member kProcStartLine{"ProcStartLine"};
@@ -25,6 +26,9 @@ const Member kVBComponents{"VBComponents"};
 }  // namespace
 
 std::int32_t CodeModule::get_CountOfLines() const { return Long(Get(kCountOfLines)); }
+std::string CodeModule::get_Lines(std::int32_t start, std::int32_t count) const {
+  return Text(Get(kLines, {start, count}));
+}
 void CodeModule::InsertLines(std::int32_t line, const std::string& text) const {
   Call(kInsertLines, {line, text});
 }

@@ -19,6 +19,8 @@ class CodeModule : public Object {
   explicit CodeModule(const Object& object) : Object(object) {}
 
   std::int32_t get_CountOfLines() const;
+  /// Some lines, with CR LF between them.
+  std::string get_Lines(std::int32_t start, std::int32_t count) const;
   /// Puts a text ahead of a line; CR parts its lines.
   void InsertLines(std::int32_t line, const std::string& text) const;
   void DeleteLines(std::int32_t start, std::int32_t count) const;

@@ -144,7 +144,8 @@ TEST_F(CommandLine, RefusesAWorkbookThatItsHostCannotRead) {
 TEST_F(CommandLine, RefusesWrongUsage) {
   const std::string help = "\nrangewerks read --help tells how to call it.\n";
   const std::string commands =
-      "the commands are read, validate, fill, clear and place\nrangewerks --help tells what each "
+      "the commands are read, validate, fill, clear, place and browse\nrangewerks --help tells "
+      "what each "
       "does.\n";
   ExpectRefusal("", "rangewerks: say what to do; " + commands);
   ExpectRefusal("reed", "rangewerks: there is no command \"reed\"; " + commands);
