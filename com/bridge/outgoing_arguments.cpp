@@ -46,6 +46,12 @@ void OutgoingArguments::Put(const Argument& argument) {
   Variable& variable = variables_.emplace_back(Variable{&argument, {}});
   VariantInit(&variable.content);
   ToVariant(argument.Value(), variable.content);
+  if (V_VT(&variable.content) == VT_I4) {
+    // A member that is declared with a Long takes a reference to one, but none to a variant.
+    V_VT(&value) = VT_BYREF | VT_I4;
+    V_I4REF(&value) = &V_I4(&variable.content);
+    return;
+  }
   V_VT(&value) = VT_BYREF | VT_VARIANT;
   V_VARIANTREF(&value) = &variable.content;
 }

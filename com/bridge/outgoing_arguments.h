@@ -12,7 +12,8 @@
 namespace rangewerks::com {
 
 /// Lays the arguments of an invocation out as IDispatch wants them: last first, the named ones and
-/// the value of a let or set in front. A reference is passed as one to a variant of its own.
+/// the value of a let or set in front. A reference is passed as one to a variant of its own,
+/// one to a Long as that.
 class OutgoingArguments {
  public:
   /// `names`: the dispatch identifiers of the named arguments, in their order.

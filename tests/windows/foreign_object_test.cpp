@@ -124,6 +124,18 @@ TEST(ForeignObject, WritesBackWhatTheCalleeAssignsToAReference) {
   EXPECT_EQ(variable, Variant("given"));
 }
 
+TEST(ForeignObject, AReferenceToALongIsOneForMembersThatAreDeclaredSo) {
+  const auto fake = NewFake(
+      {{L"Add", 3}}, [](DISPID, WORD, DISPPARAMS& parameters, VARIANT*, EXCEPINFO*) -> HRESULT {
+        if (V_VT(&parameters.rgvarg[0]) != (VT_BYREF | VT_I4)) return DISP_E_TYPEMISMATCH;
+        *V_I4REF(&parameters.rgvarg[0]) += 1;
+        return S_OK;
+      });
+  Variant variable = std::int32_t{7};
+  FromUnknown(fake.Get()).Call(kAdd, {Argument::Reference(variable)});
+  EXPECT_EQ(variable, Variant(std::int32_t{8}));
+}
+
 TEST(ForeignObject, AnUnknownMemberIs438) {
   const auto fake = NewFake({}, {});
   const auto error = ErrorOf([&] { FromUnknown(fake.Get()).Get(kValue); });
