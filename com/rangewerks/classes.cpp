@@ -2,7 +2,10 @@
 #include <rangewerks.h>
 
 #include "automation/locale.h"
+#include "browse/clsAddBrowse.h"
 #include "browse/clsBrowseDate.h"
+#include "browse/clsExcelBrowse.h"
+#include "browse/clsExcelVB.h"
 #include "com/bridge/create_object.h"
 #include "com/control/control.h"
 #include "com/module/module.h"
@@ -61,8 +64,9 @@ void Prepare() {
   for (auto interfaceOf :
        {InputRangeInterface, InputRangeListInterface, GroupHeadingInterface, GroupHeadingsInterface,
         RangeListInterface, ExcelFunctionsInterface, RangePropertiesInterface, ColumnStyleInterface,
-        SaveSettingsInterface, ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface,
-        BrowseDateInterface, ExcelAboutInterface, RangewerksVerInterface, ColourPalletInterface}) {
+        SaveSettingsInterface, ExcelVBInterface, AddBrowseInterface, ExcelBrowseInterface,
+        ErrorMessageBoxInterface, ErrL100JrnInterface, ErrorListInterface, BrowseDateInterface,
+        ExcelAboutInterface, RangewerksVerInterface, ColourPalletInterface}) {
     Publish(interfaceOf(), *library.Get());
   }
 }
@@ -97,6 +101,14 @@ const Server& TheServer() {
                [] {
                  return Object(std::make_shared<clsSaveSettings>(TheSystem()->OpenRegistry()));
                }},
+              {__uuidof(::clsExcelVB), L"Rangewerks.clsExcelVB", L"Rangewerks macro code editor",
+               [] { return Object(std::make_shared<clsExcelVB>()); }},
+              {__uuidof(::clsAddBrowse), L"Rangewerks.clsAddBrowse",
+               L"Rangewerks browse of a workbook",
+               [] { return Object(std::make_shared<clsAddBrowse>()); }},
+              {__uuidof(::clsExcelBrowse), L"Rangewerks.clsExcelBrowse",
+               L"Rangewerks right-click browse",
+               [] { return Object(std::make_shared<clsExcelBrowse>()); }},
               {__uuidof(::ExcelFunctions), L"Rangewerks.ExcelFunctions",
                L"Rangewerks routines for sheets",
                [] { return Object(std::make_shared<ExcelFunctions>(TheSystem(), TheDesktop())); }},

@@ -36,7 +36,8 @@ TEST_F(ClassObject, IsThereForEachCreatableClass) {
   for (const GUID& id :
        {__uuidof(::clsInterfaceRangeList), __uuidof(::clsExInputRange),
         __uuidof(::colExInputRangeList), __uuidof(::clsRangeProperties), __uuidof(::clsColumnStyle),
-        __uuidof(::clsSaveSettings), __uuidof(::ExcelFunctions), __uuidof(::ErrorMessageBox),
+        __uuidof(::clsSaveSettings), __uuidof(::clsExcelVB), __uuidof(::clsAddBrowse),
+        __uuidof(::clsExcelBrowse), __uuidof(::ExcelFunctions), __uuidof(::ErrorMessageBox),
         __uuidof(::errL100Jrn), __uuidof(::clsErrorList), __uuidof(::clsBrowseDate),
         __uuidof(::clsExcelAbout), __uuidof(::clsRangewerksVer), __uuidof(::ctlColourPallet)}) {
     Pointer<IClassFactory> factory;

@@ -23,21 +23,15 @@ using com::Pointer;
 
 /// What scripts call an object of each interface. A class that comes later gets its entry here.
 const std::map<std::string, std::string> kVariables = {
-    {"_clsInterfaceRangeList", "list"},
-    {"_clsExInputRange", "record"},
-    {"_colExInputRangeList", "records"},
-    {"_colGroupHeadings", "headings"},
-    {"_clsRangeGroupHeading", "heading"},
-    {"_ExcelFunctions", "functions"},
-    {"_clsRangeProperties", "properties"},
-    {"_clsColumnStyle", "style"},
-    {"_clsSaveSettings", "settings"},
-    {"_ErrorMessageBox", "box"},
-    {"_errL100Jrn", "marker"},
-    {"_clsErrorList", "errors"},
-    {"_clsBrowseDate", "browse"},
-    {"_clsExcelAbout", "about"},
-    {"_clsRangewerksVer", "version"},
+    {"_clsInterfaceRangeList", "list"},    {"_clsExInputRange", "record"},
+    {"_colExInputRangeList", "records"},   {"_colGroupHeadings", "headings"},
+    {"_clsRangeGroupHeading", "heading"},  {"_ExcelFunctions", "functions"},
+    {"_clsRangeProperties", "properties"}, {"_clsColumnStyle", "style"},
+    {"_clsSaveSettings", "settings"},      {"_clsExcelVB", "editor"},
+    {"_clsAddBrowse", "browse"},           {"_clsExcelBrowse", "shortcut"},
+    {"_ErrorMessageBox", "box"},           {"_errL100Jrn", "marker"},
+    {"_clsErrorList", "errors"},           {"_clsBrowseDate", "browse"},
+    {"_clsExcelAbout", "about"},           {"_clsRangewerksVer", "version"},
     {"_ctlColourPallet", "panel"},
 };
 

@@ -6,7 +6,10 @@
 #include <utility>
 #include <vector>
 
+#include "browse/clsAddBrowse.h"
 #include "browse/clsBrowseDate.h"
+#include "browse/clsExcelBrowse.h"
+#include "browse/clsExcelVB.h"
 #include "com/bridge/text.h"
 #include "desktops/unattended/unattended_desktop.h"
 #include "errors/ErrorMessageBox.h"
@@ -54,6 +57,9 @@ TEST(TypeLibrary, HasASlotForEachEntryOfTheMemberTablesInTheirOrder) {
   ExpectDescribed(clsRangeProperties(nullptr));
   ExpectDescribed(clsColumnStyle(nullptr));
   ExpectDescribed(clsSaveSettings(nullptr));
+  ExpectDescribed(clsExcelVB());
+  ExpectDescribed(clsAddBrowse());
+  ExpectDescribed(clsExcelBrowse());
   ExpectDescribed(ExcelFunctions(nullptr, nullptr));
   ExpectDescribed(ErrorMessageBox(nullptr, nullptr));
   ExpectDescribed(errL100Jrn());
@@ -155,6 +161,9 @@ TEST(TypeLibrary, TellsWhichClassesAClientCanCreateAndWhichAreGlobal) {
                   "clsRangeProperties: creatable default _clsRangeProperties",
                   "clsColumnStyle: creatable default _clsColumnStyle",
                   "clsSaveSettings: creatable default _clsSaveSettings",
+                  "clsExcelVB: creatable default _clsExcelVB",
+                  "clsAddBrowse: creatable default _clsAddBrowse",
+                  "clsExcelBrowse: creatable default _clsExcelBrowse",
                   "ExcelFunctions: global creatable default _ExcelFunctions",
                   "ErrorMessageBox: global creatable default _ErrorMessageBox",
                   "errL100Jrn: global creatable default _errL100Jrn",
@@ -169,8 +178,9 @@ TEST(TypeLibrary, HidesTheInterfacesBehindTheirClasses) {
   for (const char* name :
        {"_clsRangeGroupHeading", "_colGroupHeadings", "_clsExInputRange", "_colExInputRangeList",
         "_clsInterfaceRangeList", "_clsRangeProperties", "_clsColumnStyle", "_clsSaveSettings",
-        "_ExcelFunctions", "_ErrorMessageBox", "_errL100Jrn", "_clsErrorList", "_clsBrowseDate",
-        "_clsExcelAbout", "_clsRangewerksVer", "_ctlColourPallet"}) {
+        "_clsExcelVB", "_clsAddBrowse", "_clsExcelBrowse", "_ExcelFunctions", "_ErrorMessageBox",
+        "_errL100Jrn", "_clsErrorList", "_clsBrowseDate", "_clsExcelAbout", "_clsRangewerksVer",
+        "_ctlColourPallet"}) {
     const auto view = TableViewOf(*TypeNamed(name).Get());
     TypeAttributes attributes(*view.Get());
     view->GetTypeAttr(attributes.Receive());
@@ -302,6 +312,9 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("_clsColumnStyle", "{6FBAAE43-2DC4-4F27-BE34-B7889C69699A}"),
                           Pair("_clsSaveSettings", "{3A4DB0AA-7EBB-4E13-A369-6DF49B9FB418}"),
                           Pair("_clsInterfaceRangeList", "{96AC32DF-DC59-4172-A116-306F51B69B53}"),
+                          Pair("_clsExcelVB", "{9C1AD3BF-C1B4-4AE5-A46B-D94DFB51743A}"),
+                          Pair("_clsAddBrowse", "{6EB88E20-609D-4DCC-8316-9E5DCA5DA59E}"),
+                          Pair("_clsExcelBrowse", "{2769413C-A556-4E30-9AFD-AD638344416A}"),
                           Pair("_ExcelFunctions", "{6A523BB4-D3E4-46FE-905B-2DBCFF546108}"),
                           Pair("_ErrorMessageBox", "{3C266930-6CEF-4557-BCF0-92E30A4AF202}"),
                           Pair("_errL100Jrn", "{85A5D147-95E8-4A41-9E2F-1C9324A3ABC2}"),
@@ -320,6 +333,9 @@ TEST(TypeLibrary, KeepsItsIdentifiers) {
                           Pair("clsRangeProperties", "{42CD4EDC-D06C-43CD-A93F-17A134F30A50}"),
                           Pair("clsColumnStyle", "{8724327A-FF1A-4459-8D32-B8379209BB5F}"),
                           Pair("clsSaveSettings", "{D7D4614C-341A-4305-A140-7E27209B1EC8}"),
+                          Pair("clsExcelVB", "{71FEB512-C89F-49F7-9670-9EF77EEC9081}"),
+                          Pair("clsAddBrowse", "{3A8064CD-B23D-4C18-B6A0-E169638F3EE9}"),
+                          Pair("clsExcelBrowse", "{AC0AE843-5C1B-45F1-877E-10E11EA02C22}"),
                           Pair("ExcelFunctions", "{D9C76933-35AC-42B4-B8D4-9F0A9B9D13CE}"),
                           Pair("ErrorMessageBox", "{C4CEEC56-BC5B-42C9-8C97-0230704DA14B}"),
                           Pair("errL100Jrn", "{E36C2DB5-1A2D-4E2C-99EB-20A0667718AE}"),
@@ -337,7 +353,7 @@ TEST(TypeLibrary, DescribesEveryTypeInWords) {
   library->GetDocumentation(-1, name.Receive(), help.Receive(), nullptr, nullptr);
   EXPECT_EQ(name.Text(), "Rangewerks");
   EXPECT_EQ(help.Text(), "Rangewerks");
-  EXPECT_EQ(library->GetTypeInfoCount(), 38U);  // 4 enumerations, 18 interfaces, 16 classes
+  EXPECT_EQ(library->GetTypeInfoCount(), 44U);  // 4 enumerations, 21 interfaces, 19 classes
   for (UINT i = 0; i < library->GetTypeInfoCount(); ++i) {
     library->GetDocumentation(static_cast<INT>(i), name.Receive(), help.Receive(), nullptr,
                               nullptr);
