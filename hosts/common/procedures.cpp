@@ -74,6 +74,38 @@ bool Ends(std::string_view line, std::string_view keyword) {
   return EqualText(TakeWord(line), "End") && EqualText(TakeWord(line), keyword);
 }
 
+/// Whether a line goes on in the next one.
+bool IsContinued(std::string_view line) {
+  const std::size_t last = line.find_last_not_of(kBlanks);
+  if (last == std::string_view::npos || line[last] != '_') return false;
+  return last == 0 || kBlanks.find(line[last - 1]) != std::string_view::npos;
+}
+
+/// The lines with each that goes on made whole; what continues it is a bare comment or statement.
+std::vector<std::string> Whole(std::span<const std::string> lines) {
+  std::vector<std::string> whole(lines.begin(), lines.end());
+  for (std::size_t i = 0; i < lines.size();) {
+    std::size_t behind = i + 1;
+    for (; IsContinued(lines[behind - 1]) && behind < lines.size(); ++behind) {
+      whole[i].resize(whole[i].find_last_of('_'));
+      whole[i] += lines[behind];
+    }
+    const char* const rest = IsBlankOrComment(whole[i]) ? "'" : ":";
+    while (++i < behind) whole[i] = rest;
+  }
+  return whole;
+}
+
+/// Whether a declaration has its "End" behind it on the same line, parted by ":".
+bool EndsAtOnce(std::string_view line, std::string_view keyword) {
+  bool isText = false;
+  for (std::size_t i = 0; i < line.size() && (isText || line[i] != '\''); ++i) {
+    if (line[i] == '"') isText = !isText;
+    if (line[i] == ':' && !isText && Ends(line.substr(i + 1), keyword)) return true;
+  }
+  return false;
+}
+
 /// The first line behind everything above `declaration` that is no comment.
 std::size_t BehindDeclarations(std::span<const std::string> lines, std::size_t declaration) {
   while (declaration > 0 && IsBlankOrComment(lines[declaration - 1])) --declaration;
@@ -84,6 +116,7 @@ std::size_t BehindDeclarations(std::span<const std::string> lines, std::size_t d
 /// is missing.
 std::size_t BehindProcedure(std::span<const std::string> lines, std::size_t declaration,
                             std::string_view keyword) {
+  if (EndsAtOnce(lines[declaration], keyword)) return declaration + 1;
   for (std::size_t i = declaration + 1; i < lines.size(); ++i) {
     if (Ends(lines[i], keyword)) return i + 1;
     if (DeclarationOn(lines[i])) return i;
@@ -93,7 +126,8 @@ std::size_t BehindProcedure(std::span<const std::string> lines, std::size_t decl
 
 }  // namespace
 
-std::vector<ProcedureLines> FindProcedures(std::span<const std::string> lines) {
+std::vector<ProcedureLines> FindProcedures(std::span<const std::string> physical) {
+  const std::vector<std::string> lines = Whole(physical);
   std::vector<ProcedureLines> found;
   std::size_t start = 0;
   for (std::size_t i = 0; i < lines.size();) {

@@ -177,6 +177,33 @@ TEST(CodeText, AProcedureWithoutAnEndLineEndsWhereTheNextIsDeclared) {
   EXPECT_EQ(Place(CodeText("Sub First()\rx = 1"), "First"), "1+2");
 }
 
+TEST(CodeText, ALineThatGoesOnIsOneWithTheNext) {
+  const CodeText code(
+      "Dim one, _\r"
+      "  two\r"
+      "' a comment _\r"
+      "Sub NotThisOne()\r"
+      "Private Sub _\r"
+      "  First _\r"
+      "  (ByVal lIndex As Long)\r"
+      "  x = _\r"
+      "End Sub\r"
+      "End Sub\r"
+      "Sub Second()\r"
+      "End Sub _");
+  EXPECT_EQ(Place(code, "First"), "3+8") << "the comment is its own, on both lines";
+  EXPECT_EQ(code.ProcBodyLine("First", 0), 5);
+  EXPECT_EQ(Place(code, "Second"), "11+2");
+  EXPECT_EQ(ErrorNumberOf([&] { Place(code, "NotThisOne"); }), kSubNotDefined);
+}
+
+TEST(CodeText, AProcedureOnOneLineLeavesWhatIsBelowToTheNext) {
+  const CodeText code(
+      "Sub First(): x = \": End Sub\": End Sub\r' about the second\rSub Second()\rEnd Sub");
+  EXPECT_EQ(Place(code, "First"), "1+1");
+  EXPECT_EQ(Place(code, "Second"), "2+3");
+}
+
 TEST(CodeText, WhatIsNoDeclarationIsNoProcedure) {
   const CodeText code(
       "Declare Sub Outside Lib \"x\" ()\r"
