@@ -7,11 +7,11 @@ namespace rangewerks::apps {
 namespace {
 
 constexpr const char* kPlain = R"({"sheets": [{"name": "Journal"}]})";
-constexpr const char* kWithOwnMacro = R"({"sheets": [{"name": "Journal"}],
+constexpr const char* kWithOwnMacro = R"json({"sheets": [{"name": "Journal"}],
   "modules": [{"name": "ThisWorkbook",
                "code": ["Private Sub Workbook_Open()", "  MsgBox \"Welcome\"", "End Sub"]
 }]
-})";
+})json";
 
 class BrowseCommand : public CommandLine {
  protected:
