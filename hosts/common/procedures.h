@@ -21,10 +21,10 @@ struct ProcedureLines {
   std::int32_t count;        ///< from `start`
 };
 
-/// The procedures in their order, told by the first words of lines, whatever their case; a line that
-/// ends with " _" goes on in the next. A procedure begins behind the one before it, the first one
-/// behind the last declaration, so that the blank lines and comments above it are its own; it ends
-/// with its "End" line, the last one with the module.
+/// The procedures in their order, told by the first words of lines, whatever their case; a line
+/// that ends with " _" goes on in the next. A procedure begins behind the one before it, the first
+/// one behind the last declaration, so that the blank lines and comments above it are its own; it
+/// ends with its "End" line, the last one with the module.
 std::vector<ProcedureLines> FindProcedures(std::span<const std::string> lines);
 
 }  // namespace rangewerks::hosts
