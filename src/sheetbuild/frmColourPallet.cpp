@@ -74,6 +74,8 @@ void frmColourPallet::ShrinkToTheAlternatePanel() {
   let_Height(kFormHeight);
   cmdOk.let_Top(kButtonsTop);
   cmdCancel.let_Top(kButtonsTop);
+  // What is left of the panel below its frame would lie over the buttons.
+  ctlColourPallet2.let_Height(kButtonsTop - ctlColourPallet2.get_Top());
 }
 
 void frmColourPallet::chkRngColor_Click() {

@@ -98,6 +98,11 @@ TEST_F(FrmColourPallet, ShrinksToTheShorterAlternatePanelWhenItLoads) {
   EXPECT_EQ(form.cmdCancel.get_Top(), 4100);
 }
 
+TEST_F(FrmColourPallet, NoPanelLiesOverTheButtonsThatHaveMovedUp) {
+  GiveStyles();
+  EXPECT_EQ(alternate.get_Top() + alternate.get_Height(), form.cmdOk.get_Top());
+}
+
 TEST_F(FrmColourPallet, HasNoHeadingColourToChooseForAlternateRows) {
   GiveStyles();
   EXPECT_FALSE(alternate.txtHeadColour.get_Enabled());
