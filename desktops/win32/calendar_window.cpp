@@ -34,6 +34,22 @@ double ToSerial(SYSTEMTIME day) {
   return static_cast<double>(ticks.QuadPart) / kTicksPerDay - kDaysBetween;
 }
 
+/// How far an arrow key leads.
+std::optional<int> DaysOf(WPARAM key) {
+  switch (key) {
+    case VK_LEFT:
+      return -1;
+    case VK_RIGHT:
+      return 1;
+    case VK_UP:
+      return -7;
+    case VK_DOWN:
+      return 7;
+    default:
+      return std::nullopt;
+  }
+}
+
 }  // namespace
 
 CalendarWindow::CalendarWindow(Surroundings& around, forms::Calendar& calendar, HWND parent, int id)
@@ -70,6 +86,17 @@ std::optional<LRESULT> CalendarWindow::Notified(NMHDR& notification) {
     default:
       return std::nullopt;
   }
+}
+
+// Not every system's calendar knows keys.
+bool CalendarWindow::TakeKey(const MSG& message) {
+  const std::optional<int> days = DaysOf(message.wParam);
+  if (message.message != WM_KEYDOWN || !days || GetKeyState(VK_CONTROL) < 0) return false;
+  SYSTEMTIME shown{};
+  SendMessageW(Handle(), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&shown));
+  calendar_.PersonChose({ToSerial(shown) + *days});
+  Apply(forms::Aspect::Content);
+  return true;
 }
 
 // The control tells of single clicks only.

@@ -10,6 +10,7 @@ class CalendarWindow final : public ControlWindow {
  public:
   CalendarWindow(Surroundings& around, forms::Calendar& calendar, HWND parent, int id);
   std::optional<LRESULT> Notified(NMHDR& notification) override;
+  bool TakeKey(const MSG& message) override;
 
  protected:
   void ApplyPlace() override;

@@ -225,8 +225,23 @@ TEST_F(Win32Controls, ACalendarTellsTheDayOfAClickAndThenOfADoubleClick) {
   EXPECT_THAT(chosen, ElementsAre(45007));
 }
 
-// Wine's calendar takes no keys, so that the notification is sent in its place.
-TEST_F(Win32Controls, ACalendarTellsTheDayThatKeysLeadTo) {
+TEST_F(Win32Controls, ArrowKeysLeadACalendarByADayAndByAWeek) {
+  Show();
+  form->calDay.SetFocus();
+  std::vector<double> days;
+  for (const int key : {VK_RIGHT, VK_DOWN, VK_LEFT, VK_UP}) {
+    PressKey(static_cast<WORD>(key));
+    days.push_back(form->calDay.get_Date().serial);
+  }
+  EXPECT_THAT(days, ElementsAre(45001, 45008, 45007, 45000));
+  SYSTEMTIME day{};
+  SendMessageW(WindowOf(form->calDay), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&day));
+  EXPECT_EQ(day.wDay, 15);
+}
+
+// By the keys that the calendar itself knows. Wine's knows none, so that the notification is sent
+// in its place.
+TEST_F(Win32Controls, ACalendarTellsTheDayThatOtherKeysLeadTo) {
   Show();
   NMSELCHANGE change{};
   change.nmhdr.hwndFrom = WindowOf(form->calDay);
