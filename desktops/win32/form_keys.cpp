@@ -85,7 +85,9 @@ void Win32FormWindow::GiveFocus(HWND window) {
   if (window == nullptr) return;
   SetFocus(window);
   const auto code = static_cast<UINT>(SendMessageW(window, WM_GETDLGCODE, 0, 0));
-  if ((code & DLGC_HASSETSEL) != 0) SendMessageW(window, EM_SETSEL, 0, -1);
+  // Nobody types over a text that is shown only.
+  const bool locked = (GetWindowLongPtrW(window, GWL_STYLE) & ES_READONLY) != 0;
+  if ((code & DLGC_HASSETSEL) != 0 && !locked) SendMessageW(window, EM_SETSEL, 0, -1);
 }
 
 void Win32FormWindow::RestoreFocus() {
