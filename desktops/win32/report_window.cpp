@@ -8,6 +8,13 @@
 
 namespace rangewerks::desktops {
 
+namespace {
+
+/// What a heading has beside its text, at the standard resolution.
+constexpr int kHeadingMargins = 14;
+
+}  // namespace
+
 ReportWindow::ReportWindow(Surroundings& around, forms::Control& control, HWND parent, int id,
                            DWORD furtherStyle)
     : ControlWindow(around, control, parent, id,
@@ -49,11 +56,18 @@ void ReportWindow::ApplyColumns() {
     LVCOLUMNW column{};
     column.mask = LVCF_TEXT | LVCF_WIDTH | LVCF_SUBITEM;
     column.pszText = heading.data();
-    column.cx = Pixels(shown_[i].width);
+    column.cx = std::max(Pixels(shown_[i].width), HeadingWidth(heading));
     column.iSubItem = static_cast<int>(i);
     SendMessageW(Handle(), LVM_INSERTCOLUMNW, i, reinterpret_cast<LPARAM>(&column));
   }
   FitColumns();
+}
+
+// Lengths don't grow with the person's font, headings do.
+int ReportWindow::HeadingWidth(const std::wstring& heading) const {
+  const auto text =
+      SendMessageW(Handle(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(heading.c_str()));
+  return static_cast<int>(text) + MulDiv(kHeadingMargins, Around().dpi, kStandardDpi);
 }
 
 void ReportWindow::FitColumns() {

@@ -43,6 +43,7 @@ class ReportWindow : public ControlWindow {
 
  private:
   void ApplyColumns();
+  int HeadingWidth(const std::wstring& heading) const;
   void FitColumns();
   void TellText(NMLVDISPINFOW& asked) const;
   LRESULT FindRow(const NMLVFINDITEMW& wanted) const;

@@ -223,6 +223,13 @@ TEST_F(Win32Lists, TheColumnWithoutAWidthTakesWhatTheOthersLeave) {
   EXPECT_EQ(sum(), InnerArea(grid()).right);
 }
 
+TEST_F(Win32Lists, AColumnIsAsWideAsItsHeadingAtLeast) {
+  Show();
+  form->grid.let_ColumnWidth(0, 60);
+  EXPECT_GT(SendMessageW(grid(), LVM_GETCOLUMNWIDTH, 0, 0),
+            SendMessageW(grid(), LVM_GETSTRINGWIDTHW, 0, reinterpret_cast<LPARAM>(L"Row")));
+}
+
 TEST_F(Win32Lists, AGridTellsTheClickBeforeTheRowAndKeysTellTheRowAlone) {
   Show();
   EXPECT_EQ(form->grid.get_Row(), -1);
