@@ -15,6 +15,9 @@ target_compile_definitions(test_windows PRIVATE
   RANGEWERKS_DLL=L"${root}$<TARGET_FILE:rangewerks_dll>"
   SHEETHOST_DLL=L"${root}$<TARGET_FILE:sheethost_dll>")
 
+# There is no display to show a form on.
+set_tests_properties(windows PROPERTIES ENVIRONMENT RANGEWERKS_UNATTENDED=1)
+
 # And scripts, each a test of its own. The runner finds the DLLs of this build by its folder.
 if(CMAKE_CROSSCOMPILING)
   file(GLOB scripts CONFIGURE_DEPENDS "${CMAKE_CURRENT_SOURCE_DIR}/windows/*.vbs")
