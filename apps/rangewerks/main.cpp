@@ -24,7 +24,9 @@ using namespace rangewerks::apps;
 void AddBookOptions(CLI::App& command, SheetOptions& options) {
   static const std::map<std::string, HostKind> hosts = {{"libreoffice", HostKind::LibreOffice},
                                                         {"workbook", HostKind::Workbook}};
-  command.add_option("BOOK", options.book, "The workbook: xlsx, xls, ods, or a JSON workbook file")
+  command
+      .add_option("BOOK", options.book,
+                  "The workbook: xlsx, xlsm, xls, ods, or a JSON workbook file")
       ->required()
       ->type_name("FILE");
   command

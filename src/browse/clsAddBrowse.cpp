@@ -82,7 +82,7 @@ void clsAddBrowse::AddWorkbookOpenBrowse() {
     editor.AddCodeLine(ConditionLine());
     editor.AddCodeLine("      Application.ShortcutMenus(xlWorksheetCell).MenuItems.Add Caption:=" +
                        MacroLiteral(get_BrowseMenuText()) +
-                       ", OnAction:=\"BrowseRecords\", Before:=\"Cut\"");
+                       R"(, OnAction:="BrowseRecords", Before:="Cut")");
     editor.AddCodeLine("  End if");
     editor.AddCodeLine("End Sub");
     at();

@@ -42,7 +42,7 @@ excel::CommandBar clsExcelBrowseAddin::FindBrowseCommandBar() const {
   const std::string caption = get_Caption();
   const auto bars = workBook_.get_Application().get_CommandBars().Enumerate();
   for (Variant each; bars->Next(each);) {
-    const excel::CommandBar bar(each.AsObject());
+    excel::CommandBar bar(each.AsObject());
     // The host can have several bars of this name, of which the entry is in one.
     if (bar.get_Name() == "Cell" && HasEntry(bar, caption)) return bar;
   }
