@@ -18,8 +18,8 @@ void Settle();
 /// Hands out messages until it holds. False when it still doesn't after a quarter of a minute.
 bool SettleUntil(const std::function<bool()>& condition);
 
-/// Puts keys into the system's queue and doesn't wait: for what opens a loop of its own, as menus do.
-/// Each group is held together.
+/// Puts keys into the system's queue and doesn't wait: for what opens a loop of its own, as menus
+/// do. Each group is held together.
 void QueueKeys(std::initializer_list<std::initializer_list<WORD>> groups);
 /// Presses keys one after the other and lets them go in the other order, then settles.
 void PressKeys(std::initializer_list<WORD> keys);
