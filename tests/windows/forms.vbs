@@ -1,26 +1,26 @@
 ' The dialogs of the library. Nobody is there: each is closed at once as by its title bar, and what it
 ' would have shown goes to standard error.
-Dim browse, about, version, functions, shell, settings
+Dim dates, about, version, functions, shell, settings
 
 NewScene "Data"
 
 ' --- the calendar --------------------------------------------------------------------------------
 
-Set browse = CreateObject("Rangewerks.clsBrowseDate")
-CheckClass "a date browse", browse, "clsBrowseDate"
-Check "ActiveCell at first", browse.ActiveCell Is Nothing
+Set dates = CreateObject("Rangewerks.clsBrowseDate")
+CheckClass "a date browse", dates, "clsBrowseDate"
+Check "ActiveCell at first", dates.ActiveCell Is Nothing
 On Error Resume Next
-browse.BrowseDate
+dates.BrowseDate
 CheckError "a browse without a cell", 91, _
            "Line No.: n BrowseDate of Class Module clsBrowseDate Line#:n", _
            "Object variable or With block variable not set"
 On Error GoTo 0
 Dim chosen
 Set chosen = sheet.Range("B5")
-Set browse.ActiveCell = chosen
-CheckIs "ActiveCell", browse.ActiveCell, chosen
+Set dates.ActiveCell = chosen
+CheckIs "ActiveCell", dates.ActiveCell, chosen
 Put "B5", "abc"
-browse.BrowseDate
+dates.BrowseDate
 CheckEqual "a browse that is closed leaves the cell", Cell("B5"), "abc"
 
 ' --- the about box and the version ---------------------------------------------------------------

@@ -30,7 +30,7 @@ const std::map<std::string, std::string> kVariables = {
     {"_clsSaveSettings", "settings"},      {"_clsExcelVB", "editor"},
     {"_clsAddBrowse", "browse"},           {"_clsExcelBrowse", "shortcut"},
     {"_ErrorMessageBox", "box"},           {"_errL100Jrn", "marker"},
-    {"_clsErrorList", "errors"},           {"_clsBrowseDate", "browse"},
+    {"_clsErrorList", "errors"},           {"_clsBrowseDate", "dates"},
     {"_clsExcelAbout", "about"},           {"_clsRangewerksVer", "version"},
     {"_ctlColourPallet", "panel"},
 };
