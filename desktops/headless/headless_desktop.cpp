@@ -59,7 +59,7 @@ forms::CommandButton* ButtonWith(const forms::Container& container,
 
 }  // namespace
 
-HeadlessDesktop::~HeadlessDesktop() { DropSharedForms(); }
+HeadlessDesktop::~HeadlessDesktop() { DropForms(); }
 
 std::logic_error HeadlessDesktop::UnexpectedForm(const forms::Form& form) {
   return std::logic_error("Nobody was told to deal with " + form.get_Name());

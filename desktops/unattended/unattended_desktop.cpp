@@ -43,7 +43,7 @@ bool IsUnattended() {
   return value != nullptr && !std::string_view(value).empty() && std::string_view(value) != "0";
 }
 
-UnattendedDesktop::~UnattendedDesktop() { DropSharedForms(); }
+UnattendedDesktop::~UnattendedDesktop() { DropForms(); }
 
 std::shared_ptr<forms::FormWindow> UnattendedDesktop::MakeWindow(forms::Form& form) {
   return std::make_shared<UnattendedWindow>(*output_, form);

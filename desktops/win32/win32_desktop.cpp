@@ -29,7 +29,7 @@ HWND OwnerOf(const forms::Form* form) {
 
 Win32Desktop::Win32Desktop() : styles_(std::make_shared<VisualStyles>()) {}
 
-Win32Desktop::~Win32Desktop() { DropSharedForms(); }
+Win32Desktop::~Win32Desktop() { DropForms(); }
 
 std::shared_ptr<forms::FormWindow> Win32Desktop::MakeWindow(forms::Form& form) {
   return Win32FormWindow::Make(*this, styles_, form);

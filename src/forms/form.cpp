@@ -119,7 +119,7 @@ void Form::TakeDesignSize() {
 void Form::Load() {
   if (state_ != State::NotLoaded) return;
   state_ = State::Loaded;
-  keptAlive_ = weak_from_this().lock();
+  if (auto self = weak_from_this().lock()) toolkit_->KeepAlive(std::move(self));
   try {
     keeper_ = toolkit_->Keeper();
     window_ = toolkit_->MakeWindow(*this);
@@ -145,11 +145,12 @@ void Form::Unload() {
 }
 
 void Form::DropWindow() {
+  if (state_ == State::NotLoaded) return;
   // Let go in the other order: the window first, and the form's last holder when all is done.
-  const std::shared_ptr<Form> keptAlive = std::exchange(keptAlive_, nullptr);
+  const std::shared_ptr<Form> keptAlive = toolkit_->LetGoOf(*this);
   const std::shared_ptr<void> keeper = std::exchange(keeper_, nullptr);
   const std::shared_ptr<FormWindow> window = std::exchange(window_, nullptr);
-  if (state_ != State::NotLoaded) Reset();
+  Reset();
 }
 
 void Form::Reset() {

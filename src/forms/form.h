@@ -143,7 +143,6 @@ class Form : public Container, public std::enable_shared_from_this<Form> {
   std::intptr_t embeddingWindow_ = 0;
   std::vector<MenuEntry*> menuBar_;
   std::shared_ptr<FormWindow> window_;
-  std::shared_ptr<Form> keptAlive_;  ///< a loaded form lives even when nobody holds it
   std::shared_ptr<void> keeper_;
 };
 

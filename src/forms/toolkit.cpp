@@ -1,5 +1,7 @@
 #include "forms/toolkit.h"
 
+#include <algorithm>
+
 #include "automation/error.h"
 #include "forms/form.h"
 
@@ -30,12 +32,21 @@ void Toolkit::ReportUnhandled(const std::exception& failure, Form* owner) {
   ShowMessage({.text = std::move(text), .flags = Message::kCritical}, owner);
 }
 
-void Toolkit::DropSharedForms() {
-  while (!shared_.empty()) {
-    const std::shared_ptr<Form> form = std::move(shared_.begin()->second);
-    shared_.erase(shared_.begin());
-    if (form) form->DropWindow();
+std::shared_ptr<Form> Toolkit::LetGoOf(const Form& form) {
+  const auto kept = std::find_if(loaded_.begin(), loaded_.end(),
+                                 [&](const auto& held) { return held.get() == &form; });
+  if (kept == loaded_.end()) return nullptr;
+  std::shared_ptr<Form> held = std::move(*kept);
+  loaded_.erase(kept);
+  return held;
+}
+
+void Toolkit::DropForms() {
+  while (!loaded_.empty()) {
+    const std::shared_ptr<Form> form = loaded_.back();
+    form->DropWindow();  // and it is let go of
   }
+  shared_.clear();
 }
 
 Answer MsgBox(Toolkit& toolkit, const std::string& text, std::int32_t flags,

@@ -118,11 +118,18 @@ class Toolkit {
   }
   std::shared_ptr<void> Keeper() const { return keeper_ ? keeper_() : nullptr; }
 
+  /// A loaded form lives even when nobody else holds it.
+  void KeepAlive(std::shared_ptr<Form> form) { loaded_.push_back(std::move(form)); }
+  /// What KeepAlive was given, or null.
+  std::shared_ptr<Form> LetGoOf(const Form& form);
+
  protected:
-  /// Unloads and drops the shared forms; a desktop calls it while it can still close windows.
-  void DropSharedForms();
+  /// Takes all windows away and drops the forms; a desktop calls it while it can still close
+  /// windows.
+  void DropForms();
 
  private:
+  std::vector<std::shared_ptr<Form>> loaded_;
   std::unordered_map<std::type_index, std::shared_ptr<Form>> shared_;
   std::function<std::shared_ptr<void>()> keeper_;
 };

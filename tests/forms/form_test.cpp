@@ -164,6 +164,17 @@ TEST(Form, StaysAliveWhileItIsLoadedThoughNobodyHoldsIt) {
   EXPECT_TRUE(watched.expired());
 }
 
+TEST(Form, ThatIsLoadedGoesWithItsDesktop) {
+  std::weak_ptr<frmSample> watched;
+  {
+    HeadlessDesktop desktop;
+    const auto form = std::make_shared<frmSample>(desktop);
+    watched = form;
+    form->Show();
+  }
+  EXPECT_TRUE(watched.expired());
+}
+
 TEST(Form, HoldsTheDesktopsKeeperForAsLongAsItIsLoaded) {
   HeadlessDesktop desktop;
   std::weak_ptr<void> kept;
