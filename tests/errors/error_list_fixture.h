@@ -27,6 +27,10 @@ class ErrorListFixture : public ::testing::Test {
     host.AddWorkbook("Book1", {"Sheet1"});
     sheet = excel::Worksheet(host.Application().Get(Member("ActiveSheet")).AsObject());
   }
+  /// A form that is open keeps its desktop, and the desktop keeps the form.
+  ~ErrorListFixture() override {
+    if (list) Form().DropWindow();
+  }
 
   void UseKeyRange(const std::string& address) { list->set_KeyRange(sheet.get_Range(address)); }
   frmErrorListDisplay& Form() const { return list->Display(); }
