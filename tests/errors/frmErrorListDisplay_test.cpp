@@ -255,6 +255,7 @@ TEST(AnErrorListFormThatCannotLoad, TellsThePersonAndOpensAllTheSame) {
   EXPECT_THAT(source, MatchesRegex("Desktop\r\nForm_Load of Form frmErrorListDisplay "
                                    "Line#:[1-9][0-9]*"));
   EXPECT_TRUE(list.Display().IsVisible());
+  desktop->Close(list.Display());
 }
 
 }  // namespace
