@@ -6,6 +6,7 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <system_error>
@@ -84,10 +85,11 @@ void PosixSystem::StartProgram(const std::string& path) const {
   std::string option = "-c";
   std::string command = R"("$0" </dev/null >/dev/null 2>&1 &)";
   std::string program = path;
-  char* const arguments[] = {shell.data(), option.data(), command.data(), program.data(), nullptr};
+  const std::array<char*, 5> arguments{shell.data(), option.data(), command.data(), program.data(),
+                                       nullptr};
   pid_t child = 0;
   if (!FileExists(path) || access(path.c_str(), X_OK) != 0 ||
-      posix_spawn(&child, "/bin/sh", nullptr, nullptr, arguments, environ) != 0) {
+      posix_spawn(&child, "/bin/sh", nullptr, nullptr, arguments.data(), environ) != 0) {
     throw automation::Error(automation::ErrorNumber::FileNotFound);
   }
   while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
