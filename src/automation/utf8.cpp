@@ -18,11 +18,11 @@ Lead LeadOf(unsigned byte) {
   return {0, 0, 0};
 }
 
-bool IsScalar(char32_t code) { return code <= 0x10FFFF && (code < 0xD800 || code > 0xDFFF); }
+bool IsSurrogate(char32_t code) { return code >= 0xD800 && code <= 0xDFFF; }
 
 }  // namespace
 
-Character First(std::string_view text) {
+Character First(std::string_view text, Surrogates surrogates) {
   const unsigned first = Byte(text.front());
   if (first < 0x80) return {first, 1};
   const Character invalid{kInvalidByte + first, 1};
@@ -34,7 +34,8 @@ Character First(std::string_view text) {
     if ((byte & 0xC0U) != 0x80) return invalid;
     code = (code << 6U) | (byte & 0x3FU);
   }
-  if (code < lead.least || !IsScalar(code)) return invalid;
+  if (code < lead.least || code > 0x10FFFF) return invalid;
+  if (surrogates == Surrogates::Invalid && IsSurrogate(code)) return invalid;
   return {code, lead.size};
 }
 

@@ -1,4 +1,4 @@
-// Characters of a UTF-8 text, one at a time. Private to this folder's sources.
+// Characters of a UTF-8 text, one at a time.
 #pragma once
 
 #include <cstddef>
@@ -17,9 +17,13 @@ struct Character {
 
 inline bool IsAscii(char c) { return static_cast<unsigned char>(c) < 0x80; }
 
-/// The first character of a text that isn't empty. What is overlong, a surrogate, beyond U+10FFFF
-/// or cut off is no valid UTF-8.
-Character First(std::string_view text);
+/// What three bytes mean that encode half a surrogate pair. UTF-8 has no such character, but UTF-16
+/// as Windows keeps it may hold one alone.
+enum class Surrogates { Invalid, Kept };
+
+/// The first character of a text that isn't empty. What is overlong, a surrogate (unless kept),
+/// beyond U+10FFFF or cut off is no valid UTF-8.
+Character First(std::string_view text, Surrogates surrogates = Surrogates::Invalid);
 
 /// Appends a character, an invalid byte as the byte that it stands for.
 void Append(std::string& text, char32_t code);
