@@ -106,8 +106,10 @@ Error FailureOf(HRESULT result, EXCEPINFO& exception) {
   std::string description = TakeText(exception.bstrDescription);
   SysFreeString(exception.bstrHelpFile);
   exception.bstrHelpFile = nullptr;
-  const std::int32_t number = exception.wCode != 0 ? exception.wCode : NumberOf(exception.scode);
-  if (description.empty()) description = TextOf(exception.scode, number);
+  // Some servers leave both codes empty; that they failed is all there is to tell then.
+  const HRESULT code = FAILED(exception.scode) ? exception.scode : DISP_E_EXCEPTION;
+  const std::int32_t number = exception.wCode != 0 ? exception.wCode : NumberOf(code);
+  if (description.empty()) description = TextOf(code, number);
   return {number, std::move(source), std::move(description)};
 }
 

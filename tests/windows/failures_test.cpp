@@ -83,5 +83,13 @@ TEST(Failures, AnExceptionThatIsNoErrorIsToldToo) {
   EXPECT_EQ(com::FailureOf(DISP_E_EXCEPTION, exception).Description(), "broken");
 }
 
+TEST(Failures, AnExceptionWithoutACodeStillHasANumber) {
+  EXCEPINFO exception{};
+  exception.bstrDescription = com::ToBstr("broken");
+  const Error error = com::FailureOf(DISP_E_EXCEPTION, exception);
+  EXPECT_EQ(error.Number(), DISP_E_EXCEPTION);
+  EXPECT_EQ(error.Description(), "broken");
+}
+
 }  // namespace
 }  // namespace rangewerks::tests
