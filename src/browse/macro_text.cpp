@@ -33,6 +33,14 @@ constexpr std::array<std::string_view, 12> kLikeQuotes{
 /// Line and paragraph separators, which end lines too.
 constexpr std::array<std::string_view, 2> kLineEnds{"\xE2\x80\xA8", "\xE2\x80\xA9"};
 
+/// The Thai code page, 874, takes pictures for the control characters that have once been shown so.
+constexpr std::array<std::string_view, 4> kLikeLineEnds{
+    "\xE2\x97\x99",  // U+25D9 inverse white circle: line feed
+    "\xE2\x99\x82",  // U+2642 male sign: vertical tabulation
+    "\xE2\x99\x80",  // U+2640 female sign: form feed
+    "\xE2\x99\xAA",  // U+266A eighth note: carriage return
+};
+
 bool IsControl(std::string_view character) {
   const auto first = static_cast<unsigned char>(character.front());
   if (character.size() == 1) return first < 0x20 || first == 0x7F;
@@ -66,6 +74,9 @@ std::string MacroLiteral(std::string_view sText) {
     const std::string_view character = automation::Left(rest, 1);
     if (IsControl(character) || IsOneOf(character, kLineEnds)) {
       Refuse(sText, "a line end or another control character");
+    }
+    if (IsOneOf(character, kLikeLineEnds)) {
+      Refuse(sText, "a character that macro editors take for a line end");
     }
     if (IsOneOf(character, kLikeQuotes)) {
       Refuse(sText, "a character that macro editors take for a double quote");

@@ -50,6 +50,15 @@ TEST(MacroLiteral, RefusesCharactersThatACodePageTurnsIntoAQuote) {
   }
 }
 
+TEST(MacroLiteral, RefusesCharactersThatACodePageTurnsIntoALineEnd) {
+  for (const char* end : {"\xE2\x97\x99", "\xE2\x99\x82", "\xE2\x99\x80", "\xE2\x99\xAA"}) {
+    EXPECT_EQ(ErrorOf([&] { MacroLiteral(end); }).Description(),
+              "\"" + std::string(end) +
+                  "\" can't be written into macro code: it holds a character that macro editors "
+                  "take for a line end");
+  }
+}
+
 TEST(MacroLiteral, RefusesBytesThatAreNoCharacters) {
   EXPECT_EQ(ErrorOf([] { MacroLiteral("a\x93"); }).Description(),
             "\"a\x93\" can't be written into macro code: it holds bytes that are no characters");
