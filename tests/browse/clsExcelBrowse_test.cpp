@@ -168,6 +168,19 @@ TEST_F(ExcelBrowse, AFailureOfAddingReachesTheCallerUntouched) {
   EXPECT_EQ(error.Description(), "The menu is locked");
 }
 
+TEST_F(ExcelBrowse, AnEntryThatIsNotThereAfterAddingIsError91) {
+  auto& calls = host.Calls();
+  calls.LogCalls(true);
+  calls.Watch([&] {
+    const auto& lines = calls.Lines();
+    if (!lines.empty() && lines.back().starts_with("MenuItems.Add")) Call(EntryAt(2, 1), "Delete");
+  });
+  const Error error = ErrorOf([&] { browse.AddBrowseShortcut(); });
+  calls.Watch({});
+  EXPECT_EQ(error.Number(), 91);
+  EXPECT_THAT(Added(), IsEmpty());
+}
+
 TEST_F(ExcelBrowse, AFailureOfDeletingNamesTheProcedureWithoutALineBehindIt) {
   browse.AddBrowseShortcut();
   host.Calls().FailMember("CommandBarControl.Delete", 1004, "The menu is locked");
