@@ -37,15 +37,35 @@ void RequireUsage(const BrowseOptions& options) {
   }
 }
 
+bool HoldsMacros(const std::string& path) {
+  return !automation::EqualText(std::filesystem::path(path).extension().string(), ".xlsx");
+}
+
+bool AddsMacro(const BrowseOptions& options) {
+  return options.action == BrowseAction::Add && options.method == BrowseMethod::Macro;
+}
+
 /// A macro that the saved file can't hold would be lost without a word.
-void RequireRoomForMacros(const BrowseOptions& options, const std::string& path) {
-  const bool addsMacro =
-      options.action == BrowseAction::Add && options.method == BrowseMethod::Macro;
-  const std::string extension = std::filesystem::path(path).extension().string();
-  if (addsMacro && automation::EqualText(extension, ".xlsx")) {
+void RequireRoomForMacro(const BrowseOptions& options, const std::string& path) {
+  if (AddsMacro(options) && !HoldsMacros(path)) {
     throw Failure(path +
                   ": files of this kind hold no macros; save to .xlsm or .xls, or use "
                   "--method property");
+  }
+}
+
+void RequireNothingLost(const BrowseOptions& options, const excel::Workbook& workbook,
+                        const std::string& path) {
+  if (!HoldsMacros(path) && HasMacros(workbook)) {
+    throw Failure(path +
+                  ": files of this kind hold no macros, and the workbook's would be lost; save to "
+                  ".xlsm or .xls");
+  }
+  const std::string own = AddsMacro(options) ? LineOfItsOwn(workbook) : std::string();
+  if (!own.empty()) {
+    throw Failure(options.book.book +
+                  ": the workbook has a Workbook_Open of its own, with the line \"" + own +
+                  "\", which would be lost; use --method property, or move that code first");
   }
 }
 
@@ -73,10 +93,11 @@ ExitStatus RunBrowse(const BrowseOptions& options, Console console) {
   RequireFile(options.book.book);
   if (options.action == BrowseAction::Status) return TellStatus(options, console);
   const SaveTarget target(options.save, options.book);
-  RequireRoomForMacros(options, target.Path());
+  RequireRoomForMacro(options, target.Path());
   SheetSession session(options.book, Access::Write);
   const BrowseFacts facts = WithHost(options.book.book + ": the browse can't be changed", [&] {
     const excel::Workbook workbook = session.Sheet().get_Parent();
+    RequireNothingLost(options, workbook, target.Path());
     Change(options, workbook);
     const BrowseFacts changed = BrowseFactsOf(workbook, options.component);
     target.Write([&](const std::string& path) { session.SaveCopyAs(path); });

@@ -28,8 +28,13 @@ struct BrowseFacts {
 /// when it can't tell the document properties.
 BrowseFacts BrowseFactsOf(const excel::Workbook& workbook, const std::string& component);
 
-/// Gives the workbook a browse. Raises the program's error, and Failure when a Workbook_Open of the
-/// workbook's own would be lost.
+/// The first line of Workbook_Open that no browse has written; empty when there is none. Adding a
+/// browse by macro loses it. Raises the program's error.
+std::string LineOfItsOwn(const excel::Workbook& workbook);
+/// Whether any module has a line that isn't blank. Raises the program's error.
+bool HasMacros(const excel::Workbook& workbook);
+
+/// Gives the workbook a browse. Raises the program's error.
 void AddBrowse(const excel::Workbook& workbook, const std::string& component, BrowseMethod method);
 /// Takes a browse of that method from the workbook, whichever menu text it was added with.
 void RemoveBrowse(const excel::Workbook& workbook, const std::string& component,

@@ -68,8 +68,8 @@ inline constexpr const char* kBrowseFooter =
     "  rangewerks browse journal.xlsm --add --method macro --save browsed.xlsm\n\n"
     "A workbook with a browse tells the posting program that a right click on a cell may look its\n"
     "value up (docs/browse.md). The method property marks the workbook with a document property;\n"
-    "the method macro writes a Workbook_Open that adds the menu entry, and is refused where the\n"
-    "workbook has a Workbook_Open of its own.\n"
+    "the method macro writes a Workbook_Open that adds the menu entry, without the macro\n"
+    "BrowseRecords behind it, and is refused where the workbook has a Workbook_Open of its own.\n"
     "Exit status: 0 when all is well, 1 when --status finds no browse, 2 for wrong usage or\n"
     "files; then nothing is saved.\n";
 

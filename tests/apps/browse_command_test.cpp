@@ -108,11 +108,37 @@ TEST_F(BrowseCommand, AddsTheMacroAnewOverAnOlderOneOrItsEmptyFrame) {
 TEST_F(BrowseCommand, AWorkbookOpenOfTheWorkbooksOwnIsNotLost) {
   Write("own.json", kWithOwnMacro);
   ExpectNothingDone("browse own.json --add --method macro --save out.json",
-                    "the workbook has a Workbook_Open of its own, with the line \"MsgBox "
+                    "own.json: the workbook has a Workbook_Open of its own, with the line \"MsgBox "
                     "\"Welcome\"\", which would be lost; use --method property, or move that code "
                     "first");
   EXPECT_EQ(Run("browse own.json --add --save out.json").status, 0);
   EXPECT_EQ(Saved()["modules"][0]["code"][1], "  MsgBox \"Welcome\"");
+}
+
+TEST_F(BrowseCommand, AnEntryOfTheWorkbooksOwnIsNoneOfABrowse) {
+  const std::string own =
+      R"json({"sheets": [{"name": "Journal"}],
+  "modules": [{"name": "ThisWorkbook", "code": ["Private Sub Workbook_Open()",
+               "  Application.ShortcutMenus(xlWorksheetCell).MenuItems.Add Caption:=\"Mine\"",
+               "End Sub"]}]})json";
+  Write("own.json", own);
+  EXPECT_NE(Run("browse own.json --status").output.find("Menu entry on opening  no\n"),
+            std::string::npos);
+  ExpectNothingDone("browse own.json --add --method macro --save out.json",
+                    "own.json: the workbook has a Workbook_Open of its own, with the line "
+                    "\"Application.ShortcutMenus(xlWorksheetCell).MenuItems.Add "
+                    "Caption:=\"Mine\"\", which would be lost; use --method property, or move "
+                    "that code first");
+}
+
+TEST_F(BrowseCommand, TheLinesOfABrowseAreKnownInTheCaseThatAMacroEditorGivesThem) {
+  Run("browse plain.json --add --method macro --save out.json");
+  const auto once = Saved();
+  std::string text = Text("out.json");
+  text.replace(text.find("End if"), 6, "End If");
+  Write("edited.json", text);
+  EXPECT_EQ(Run("browse edited.json --add --method macro --in-place").status, 0);
+  EXPECT_EQ(Saved("edited.json"), once);
 }
 
 TEST_F(BrowseCommand, WrongUsageIsToldAndNothingIsDone) {

@@ -66,6 +66,16 @@ TEST_P(OfficeBrowseByMacro, TheMacroIsWrittenAnewOverItsEmptyFrame) {
   ExpectAnswers(Browse(Book(), "--add --method macro --in-place"), 0, "no", "yes", saved);
 }
 
+class OfficeBrowseOfMacros : public CommandLine {};
+
+TEST_F(OfficeBrowseOfMacros, AFileThatHoldsNoMacrosIsRefusedForAWorkbookWithSome) {
+  Run(std::string("browse '") + kForm + "' --add --method macro --save macros.xlsm");
+  ExpectRefusal("browse macros.xlsm --add --save out.xlsx",
+                "rangewerks: out.xlsx: files of this kind hold no macros, and the workbook's would "
+                "be lost; save to .xlsm or .xls\n");
+  EXPECT_FALSE(std::filesystem::exists(File("out.xlsx")));
+}
+
 }  // namespace
 }  // namespace rangewerks::apps
 
