@@ -27,9 +27,25 @@ std::string TableOf(const BrowseOptions& options, const BrowseFacts& facts) {
   return table.Render("");
 }
 
+/// Whether a text has no line ends, other control characters or bytes that are no characters.
+bool IsPlain(std::string_view text) {
+  while (!text.empty()) {
+    const std::string_view character = automation::Left(text, 1);
+    const auto first = static_cast<unsigned char>(character.front());
+    if (character.size() == 1 && (first < 0x20 || first >= 0x7F)) return false;
+    text.remove_prefix(character.size());
+  }
+  return true;
+}
+
 void RequireUsage(const BrowseOptions& options) {
   if (automation::IsBlank(options.component)) {
     throw Failure("--component: the name of the browse's component is blank");
+  }
+  if (!IsPlain(options.component)) {
+    throw Failure(
+        "--component: the name of the browse's component holds line ends, other control characters "
+        "or bytes that are no UTF-8; leave them out");
   }
   const bool saves = !options.save.copy.empty() || options.save.inPlace || options.save.overwrite;
   if (options.action == BrowseAction::Status && saves) {

@@ -156,6 +156,16 @@ TEST_F(BrowseCommand, WrongUsageIsToldAndNothingIsDone) {
   EXPECT_FALSE(std::filesystem::exists(File("out.json")));
 }
 
+TEST_F(BrowseCommand, AComponentIsNamedInPlainText) {
+  for (const char* name : {"a\nb", "a\tb", "a\x7F", "a\x93"}) {
+    ExpectNothingDone(
+        std::string("browse plain.json --add --component '") + name + "' --save out.json",
+        "--component: the name of the browse's component holds line ends, other "
+        "control characters or bytes that are no UTF-8; leave them out");
+  }
+  EXPECT_EQ(Run("browse plain.json --add --component 'Zo\xC3\xAB' --save out.json").status, 0);
+}
+
 TEST_F(BrowseCommand, AFileThatHoldsNoMacrosIsRefusedForOne) {
   Write("book.xlsx", "");
   ExpectRefusal("browse book.xlsx --add --method macro --save out.xlsx",
