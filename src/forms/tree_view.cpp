@@ -50,7 +50,7 @@ TreeNode& TreeView::Node(const std::string& key) {
 
 void TreeView::Clear() {
   OwningForm().Load();
-  TreeView::Reset();
+  ClearNodes();
   Changed(Aspect::Content);
 }
 
@@ -82,12 +82,16 @@ void TreeView::PersonDoubleClicked() {
   });
 }
 
-void TreeView::Reset() {
-  Control::Reset();
+void TreeView::ClearNodes() {
   selected_ = nullptr;
   roots_.clear();
   byKey_.clear();
   nodes_.clear();
+}
+
+void TreeView::Reset() {
+  Control::Reset();
+  ClearNodes();
 }
 
 }  // namespace rangewerks::forms

@@ -79,6 +79,7 @@ class TreeView final : public Control {
   friend class TreeNode;
   TreeNode& Append(TreeNode* parent, const std::string& key, const std::string& text);
   void NodeChanged(TreeNode& node);
+  void ClearNodes();
 
   std::vector<std::unique_ptr<TreeNode>> nodes_;
   std::vector<TreeNode*> roots_;

@@ -95,6 +95,17 @@ TEST_F(Content, ATreeRefusesAKeyTwiceAndAParentThatIsNotThere) {
   EXPECT_EQ(numberOf([&] { form.ListView1.Item("X"); }), 35601);
 }
 
+TEST_F(Content, ATreeThatIsClearedStaysAsVisibleAndAsLargeAsItWas) {
+  form.TreeView1.Add("H", "Header");
+  form.TreeView1.Move({100, 200, 3000, 4000});
+  form.TreeView1.let_Visible(false);
+  form.TreeView1.Clear();
+  EXPECT_TRUE(form.TreeView1.Roots().empty());
+  EXPECT_FALSE(form.TreeView1.get_Visible());
+  EXPECT_EQ(form.TreeView1.Properties().place, (forms::Place{100, 200, 3000, 4000}));
+  form.TreeView1.Add("H", "Header again");
+}
+
 TEST_F(Content, ASortedListShowsItsItemsByTheClickedColumnWithoutRegardToCase) {
   form.ListView1.AddColumn("Name", 1000);
   form.ListView1.AddColumn("Kind", 1000);
