@@ -85,6 +85,7 @@ void Grid::PersonMovedTo(std::int32_t row) {
 }
 
 void Grid::PersonClicked(std::int32_t row) {
+  const std::shared_ptr<Form> keep = OwningForm().weak_from_this().lock();
   OwningForm().Handle([&] {
     if (Click) Click();
   });

@@ -162,6 +162,21 @@ TEST_F(Content, AGridLetsGoOfItsRowsWhenItsFormUnloads) {
   EXPECT_FALSE(form.IsLoaded());
 }
 
+TEST(AFormThatNobodyHolds, MayUnloadInTheClickOfItsGrid) {
+  HeadlessDesktop desktop;
+  auto form = std::make_shared<frmLists>(desktop);
+  const std::weak_ptr<frmLists> watched = form;
+  bool moved = false;
+  form->grdRows.Click = [&shown = *form] { shown.Unload(); };
+  form->grdRows.RowColChange = [&] { moved = true; };
+  form->Show();
+  forms::Grid& grid = form->grdRows;
+  form.reset();
+  desktop.Click(grid, 0);
+  EXPECT_TRUE(watched.expired());
+  EXPECT_FALSE(moved);
+}
+
 TEST_F(Content, AMenuEntryKeepsItsCheckMarkUntilTheFormUnloads) {
   desktop.Click(form.mnuCheck);
   EXPECT_TRUE(form.mnuCheck.get_Checked());
