@@ -118,8 +118,9 @@ void Form::TakeDesignSize() {
 
 void Form::Load() {
   if (state_ != State::NotLoaded) return;
+  const std::shared_ptr<Form> self = weak_from_this().lock();
   state_ = State::Loaded;
-  if (auto self = weak_from_this().lock()) toolkit_->KeepAlive(std::move(self));
+  if (self) toolkit_->KeepAlive(self);
   try {
     keeper_ = toolkit_->Keeper();
     window_ = toolkit_->MakeWindow(*this);
@@ -165,11 +166,12 @@ void Form::Reset() {
 }
 
 void Form::Show(Modality modality) {
-  Load();
   const std::shared_ptr<Form> keep = weak_from_this().lock();
+  Load();
+  // The form's own code may unload it while it loads, and when it is told its size.
+  if (window_ && !std::exchange(hasBeenShown_, true)) Form_Resize();
+  if (!window_) return;
   visible_ = true;
-  if (!std::exchange(hasBeenShown_, true)) Form_Resize();
-  if (!window_) return;  // its own code has unloaded it
   window_->Show();
   if (modality == Modality::Modal) toolkit_->RunModal(*this);
 }

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <memory>
 #include <string>
 #include <vector>
@@ -51,6 +52,19 @@ class frmSample final : public forms::Form {
 };
 
 using Events = std::vector<std::string>;
+
+/// Does what a test wants while it loads and at its first showing.
+class frmEager final : public forms::Form {
+ public:
+  explicit frmEager(forms::Toolkit& toolkit) : Form(toolkit, "frmEager", {}) {}
+
+  std::function<void()> atLoad = [] {};
+  std::function<void()> atResize = [] {};
+
+ private:
+  void Form_Load() override { atLoad(); }
+  void Form_Resize() override { atResize(); }
+};
 
 TEST(Form, IsLoadedByTheFirstTouchOfAControl) {
   HeadlessDesktop desktop;
@@ -118,6 +132,55 @@ TEST(Form, WhoseLoadFailsIsNotLoadedAndTellsTheCaller) {
   form.failsToLoad = false;
   form.Show();
   EXPECT_TRUE(form.IsVisible());
+}
+
+TEST(Form, ThatUnloadsItselfWhileItLoadsIsNotShown) {
+  for (const forms::Modality modality : {forms::Modality::Modeless, forms::Modality::Modal}) {
+    HeadlessDesktop desktop;
+    frmEager form(desktop);
+    bool resized = false;
+    form.atLoad = [&] { form.Unload(); };
+    form.atResize = [&] { resized = true; };
+    form.Show(modality);
+    EXPECT_FALSE(form.IsLoaded());
+    EXPECT_FALSE(form.IsVisible());
+    EXPECT_FALSE(resized);
+    EXPECT_TRUE(desktop.FormsShown().empty());
+  }
+}
+
+TEST(Form, ThatUnloadsItselfAtItsFirstResizeIsNotShown) {
+  HeadlessDesktop desktop;
+  frmEager form(desktop);
+  form.atResize = [&] { form.Unload(); };
+  form.Show(forms::Modality::Modal);
+  EXPECT_FALSE(form.IsLoaded());
+  EXPECT_FALSE(form.IsVisible());
+  EXPECT_TRUE(desktop.FormsShown().empty());
+}
+
+TEST(Form, WhoseFirstResizeFailsTellsTheCallerAndIsNotVisible) {
+  HeadlessDesktop desktop;
+  frmEager form(desktop);
+  form.atResize = [] { throw Error(6, "", "Overflow"); };
+  EXPECT_THROW(form.Show(), Error);
+  EXPECT_TRUE(form.IsLoaded());
+  EXPECT_FALSE(form.IsVisible());
+  EXPECT_TRUE(desktop.FormsShown().empty());
+  form.Show();
+  EXPECT_TRUE(form.IsVisible());
+}
+
+TEST(Form, MayLoseItsLastHolderAndUnloadWhileItLoads) {
+  HeadlessDesktop desktop;
+  auto form = std::make_shared<frmEager>(desktop);
+  const std::weak_ptr<frmEager> watched = form;
+  form->atLoad = [&, &loading = *form] {
+    form.reset();
+    loading.Unload();
+  };
+  form->Show();
+  EXPECT_TRUE(watched.expired());
 }
 
 TEST(Form, TellsThePersonOfAFailureThatNoHandlerTook) {
