@@ -116,7 +116,7 @@ void HeadlessDesktop::Click(forms::CheckBox& box) {
 }
 
 void HeadlessDesktop::Click(forms::MenuEntry& entry) {
-  if (!entry.Properties().enabled) {
+  if (!entry.IsUsable()) {
     throw std::logic_error("A person can't choose " + entry.get_Name());
   }
   entry.PersonClicked();

@@ -17,6 +17,7 @@ MenuEntry::MenuEntry(Form& form, std::string name, std::string caption)
 
 MenuEntry::MenuEntry(MenuEntry& parent, std::string name, std::string caption)
     : form_(parent.form_),
+      above_(&parent),
       siblings_(&parent.entries_),
       name_(std::move(name)),
       design_(std::move(caption)),
@@ -59,6 +60,11 @@ void MenuEntry::let_Checked(bool value) { Write(&State::checked, value); }
 void MenuEntry::Reset() {
   now_ = {.caption = design_};
   for (MenuEntry* entry : entries_) entry->Reset();
+}
+
+bool MenuEntry::IsUsable() const {
+  if (!now_.enabled || IsSeparator()) return false;
+  return above_ != nullptr ? above_->IsUsable() : form_->IsVisible();
 }
 
 void MenuEntry::PersonClicked() {

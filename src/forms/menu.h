@@ -44,6 +44,9 @@ class MenuEntry {
   const State& Properties() const { return now_; }
   const std::vector<MenuEntry*>& Entries() const { return entries_; }
   bool IsSeparator() const { return now_.caption == "-"; }
+  /// Whether a person could choose it now: its form is shown, and neither itself nor an entry that
+  /// it stands in is disabled.
+  bool IsUsable() const;
   void PersonClicked();
 
  private:
@@ -53,6 +56,7 @@ class MenuEntry {
   void Write(T State::*property, const T& value);
 
   Form* form_;
+  const MenuEntry* above_ = nullptr;
   std::vector<MenuEntry*>* siblings_;
   std::string name_;
   std::string design_;

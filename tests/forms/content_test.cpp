@@ -58,6 +58,7 @@ class frmLists final : public forms::Form {
        {.source = 0, .picture = [](const Variant& /*value*/) { return forms::Picture::Warning; }}}};
   forms::MenuEntry mnuTools{*this, "mnuTools", "&Tools"};
   forms::MenuEntry mnuCheck{mnuTools, "mnuCheck", "Check"};
+  forms::MenuEntry mnuLine{mnuTools, "mnuLine", "-"};
   std::string clicked;
   std::vector<std::string> events;
 };
@@ -175,6 +176,19 @@ TEST(AFormThatNobodyHolds, MayUnloadInTheClickOfItsGrid) {
   desktop.Click(grid, 0);
   EXPECT_TRUE(watched.expired());
   EXPECT_FALSE(moved);
+}
+
+TEST_F(Content, AMenuEntryCanNotBeChosenInADisabledMenuNorOnAFormThatIsNotShown) {
+  EXPECT_THROW(desktop.Click(form.mnuLine), std::logic_error);
+  form.mnuTools.let_Enabled(false);
+  EXPECT_TRUE(form.mnuCheck.get_Enabled());
+  EXPECT_THROW(desktop.Click(form.mnuCheck), std::logic_error);
+  form.mnuTools.let_Enabled(true);
+  form.Hide();
+  EXPECT_THROW(desktop.Click(form.mnuCheck), std::logic_error);
+  form.Show();
+  desktop.Click(form.mnuCheck);
+  EXPECT_TRUE(form.mnuCheck.get_Checked());
 }
 
 TEST_F(Content, AMenuEntryKeepsItsCheckMarkUntilTheFormUnloads) {
