@@ -82,11 +82,11 @@ forms::Answer HeadlessDesktop::ShowMessage(const forms::Message& message, forms:
 }
 
 std::optional<std::string> HeadlessDesktop::ShowInput(const std::string& prompt,
-                                                      const std::string& /*title*/,
-                                                      const std::string& /*text*/,
+                                                      const std::string& title,
+                                                      const std::string& text,
                                                       forms::Form* /*owner*/) {
-  inputPrompts_.push_back(prompt);
-  return TakeNext(inputs_);
+  inputs_.push_back({prompt, title, text});
+  return TakeNext(typedInputs_);
 }
 
 std::optional<forms::Colour> HeadlessDesktop::ChooseColour(forms::Form* /*owner*/) {

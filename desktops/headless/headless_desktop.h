@@ -51,7 +51,7 @@ class HeadlessDesktop : public forms::Toolkit {
   /// Answers to the next message boxes; without one the default button is pressed.
   void AnswerMessage(forms::Answer answer) { answers_.push_back(answer); }
   /// What the next dialog of its kind gives; without one it is cancelled.
-  void TypeIntoInputBox(const std::string& text) { inputs_.push_back(text); }
+  void TypeIntoInputBox(const std::string& text) { typedInputs_.push_back(text); }
   void PickColour(forms::Colour colour) { colours_.push_back(colour); }
   void PickFile(const std::string& path) { files_.push_back(path); }
   void PickFolder(const std::string& path) { folders_.push_back(path); }
@@ -84,13 +84,17 @@ class HeadlessDesktop : public forms::Toolkit {
   const std::vector<forms::Message>& Messages() const { return messages_; }
   /// The names of all forms shown, in their order.
   const std::vector<std::string>& FormsShown() const { return formsShown_; }
-  const std::vector<std::string>& InputPrompts() const { return inputPrompts_; }
+  struct Input {
+    std::string prompt{};
+    std::string title{};
+    std::string text{};  ///< what stood in it at first
+  };
+  const std::vector<Input>& Inputs() const { return inputs_; }
   const std::vector<forms::FileDialog>& FileDialogs() const { return fileDialogs_; }
   const std::vector<std::string>& FolderTitles() const { return folderTitles_; }
   const std::vector<std::string>& HelpFiles() const { return helpFiles_; }
   std::size_t ColourDialogs() const { return colourDialogs_; }
   std::size_t Beeps() const { return beeps_; }
-  forms::MousePointer Pointer() const { return pointer_; }
   /// The form or control that was last given the keyboard by code.
   const std::string& Focus() const { return focus_; }
   void SetScreen(forms::Size screen) { screen_ = screen; }
@@ -108,6 +112,7 @@ class HeadlessDesktop : public forms::Toolkit {
   std::string BrowseForFolder(const std::string& title, forms::Form* owner) override;
   void Beep() override { ++beeps_; }
   void SetMousePointer(forms::MousePointer pointer) override { pointer_ = pointer; }
+  forms::MousePointer Pointer() const override { return pointer_; }
   forms::Size Screen() override { return screen_; }
   void ShowHelp(const std::string& file) override { helpFiles_.push_back(file); }
 
@@ -117,13 +122,13 @@ class HeadlessDesktop : public forms::Toolkit {
 
   std::deque<std::function<void(forms::Form&)>> reactions_;
   std::deque<forms::Answer> answers_;
-  std::deque<std::string> inputs_;
+  std::deque<std::string> typedInputs_;
   std::deque<forms::Colour> colours_;
   std::deque<std::string> files_;
   std::deque<std::string> folders_;
   std::vector<forms::Message> messages_;
   std::vector<std::string> formsShown_;
-  std::vector<std::string> inputPrompts_;
+  std::vector<Input> inputs_;
   std::vector<forms::FileDialog> fileDialogs_;
   std::vector<std::string> folderTitles_;
   std::vector<std::string> helpFiles_;

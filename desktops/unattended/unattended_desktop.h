@@ -37,12 +37,14 @@ class UnattendedDesktop final : public forms::Toolkit {
                                         forms::Form* owner) override;
   std::string BrowseForFolder(const std::string& title, forms::Form* owner) override;
   void Beep() override {}
-  void SetMousePointer(forms::MousePointer /*pointer*/) override {}
+  void SetMousePointer(forms::MousePointer pointer) override { pointer_ = pointer; }
+  forms::MousePointer Pointer() const override { return pointer_; }
   forms::Size Screen() override;
   void ShowHelp(const std::string& file) override;
 
  private:
   std::ostream* output_;
+  forms::MousePointer pointer_ = forms::MousePointer::Default;
 };
 
 }  // namespace rangewerks::desktops

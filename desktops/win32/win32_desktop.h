@@ -37,11 +37,9 @@ class Win32Desktop final : public forms::Toolkit {
   std::string BrowseForFolder(const std::string& title, forms::Form* owner) override;
   void Beep() override;
   void SetMousePointer(forms::MousePointer pointer) override;
+  forms::MousePointer Pointer() const override { return pointer_; }
   forms::Size Screen() override;
   void ShowHelp(const std::string& file) override;
-
-  /// What SetMousePointer was given last.
-  forms::MousePointer Pointer() const { return pointer_; }
 
  private:
   std::shared_ptr<const VisualStyles> styles_;

@@ -94,6 +94,8 @@ class Toolkit {
   virtual std::string BrowseForFolder(const std::string& title, Form* owner) = 0;
   virtual void Beep() = 0;
   virtual void SetMousePointer(MousePointer pointer) = 0;
+  /// What SetMousePointer was given last, for code that puts it back.
+  virtual MousePointer Pointer() const = 0;
   /// The screen that the person works on, without the bars of the desktop, in twips.
   virtual Size Screen() = 0;
   /// Opens a help file.

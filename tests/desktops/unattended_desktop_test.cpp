@@ -147,6 +147,7 @@ TEST_F(Unattended, AFormMayMoveAndTakeTheKeyboardWithoutAnyEffect) {
   form->let_Caption("Other");
   desktop.Beep();
   desktop.SetMousePointer(forms::MousePointer::Hourglass);
+  EXPECT_EQ(desktop.Pointer(), forms::MousePointer::Hourglass);
   EXPECT_EQ(form->get_Left(), 28800 - 4800);
   EXPECT_EQ(output.str(), kSampleTexts);
 }
