@@ -8,6 +8,7 @@
 #include "automation/error.h"
 #include "desktops/headless/headless_desktop.h"
 #include "errors/ErrorMessageBox.h"
+#include "errors/control_names.h"
 #include "errors/frmErrorDesc.h"
 #include "support/fixed_system.h"
 
@@ -50,6 +51,12 @@ TEST_F(TheErrorForm, ShowsItsControlsWithTheirTexts) {
     EXPECT_TRUE(form.txtExtra.Properties().locked);
     desktop->Click(form.cmdOK);
   });
+}
+
+TEST_F(TheErrorForm, HasItsControlsByNameInTheTabOrder) {
+  EXPECT_THAT(ControlNames(desktop->Shared<frmErrMessage>(system)),
+              ElementsAre("lblErr", "txtMainMessage", "cmdShowDetail", "cmdEmail", "cmdOK",
+                          "txtErrorNumber", "txtExtra"));
 }
 
 TEST_F(TheErrorForm, OpensWithTheHeadingAndTheMainMessageOnly) {

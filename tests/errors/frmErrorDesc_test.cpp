@@ -8,6 +8,7 @@
 
 #include "desktops/headless/headless_desktop.h"
 #include "errors/ErrorMessageBox.h"
+#include "errors/control_names.h"
 #include "errors/fake_mail.h"
 #include "errors/frmErrMessage.h"
 #include "support/fixed_system.h"
@@ -65,6 +66,13 @@ TEST_F(TheSupportMail, IsFilledInOnAFormWithTheseControls) {
   EXPECT_TRUE(form->txtProblemDetails.Properties().multiLine);
   EXPECT_EQ(form->txtYourName.get_Text(), "");
   EXPECT_EQ(form->txtYourPhone.get_Text(), "");
+}
+
+TEST_F(TheSupportMail, FormHasItsControlsByNameEachLabelBeforeItsBox) {
+  EXPECT_EQ(form->Design().fontName, "Tahoma");
+  EXPECT_THAT(ControlNames(*form),
+              ElementsAre("lbProblemDetails", "txtProblemDetails", "lblName", "txtYourName",
+                          "lblYourPhone", "txtYourPhone", "cmdSend", "cmdCancel"));
 }
 
 TEST_F(TheSupportMail, IsSentThroughOutlookStepByStep) {
