@@ -6,6 +6,13 @@
 
 namespace rangewerks::forms {
 
+namespace {
+
+/// Before day 0 the time within a day counts away from it too.
+automation::Date DayOf(automation::Date date) { return {std::trunc(date.serial)}; }
+
+}  // namespace
+
 void Label::PersonDoubleClicked() {
   OwningForm().Handle([&] {
     if (DblClick) DblClick();
@@ -50,11 +57,11 @@ automation::Date Calendar::get_Date() const {
 
 void Calendar::let_Date(automation::Date value) {
   OwningForm().Load();
-  day_.serial = std::floor(value.serial);
+  day_ = DayOf(value);
   Changed(Aspect::Content);
 }
 
-void Calendar::PersonChose(automation::Date day) { day_.serial = std::floor(day.serial); }
+void Calendar::PersonChose(automation::Date day) { day_ = DayOf(day); }
 
 void Calendar::PersonDoubleClicked() {
   OwningForm().Handle([&] {

@@ -84,6 +84,17 @@ TEST_F(ClsBrowseDate, ShowsTheCalendarOnTheDayOfANumber) {
   ExpectOpensOn({45000});
 }
 
+TEST_F(ClsBrowseDate, ShowsTheCalendarOnTheDayOfAMoment) {
+  cell.let_Value("'2029-02-28 18:00");
+  ExpectOpensOn(DateOf(2029, 2, 28));
+}
+
+// The hours of a day before day 0 count away from it.
+TEST_F(ClsBrowseDate, ShowsTheCalendarOnTheDayOfAMomentBefore1900) {
+  cell.let_Value("'1850-03-01 18:00");
+  ExpectOpensOn(DateOf(1850, 3, 1));
+}
+
 TEST_F(ClsBrowseDate, ShowsTheCalendarOnTodayForWhatIsNoDateAndLeavesItInTheCell) {
   cell.let_Value("abc");
   ExpectOpensOn(kToday);
