@@ -68,9 +68,18 @@ void CalendarWindow::ApplyPlace() {
 
 void CalendarWindow::ApplyContent() {
   const double day = calendar_.Day().serial;
-  if (day <= -kDaysBetween || day == 0) return;  // not set, and today is as good as any
-  SYSTEMTIME shown = ToSystemTime(day);
-  SendMessageW(Handle(), MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&shown));
+  if (day > -kDaysBetween) {
+    SYSTEMTIME shown = ToSystemTime(day);
+    if (SendMessageW(Handle(), MCM_SETCURSEL, 0, reinterpret_cast<LPARAM>(&shown)) != 0) return;
+  }
+  // Windows knows no such day. The person must get the one that they see.
+  calendar_.PersonChose({ShownDay()});
+}
+
+double CalendarWindow::ShownDay() const {
+  SYSTEMTIME shown{};
+  SendMessageW(Handle(), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&shown));
+  return ToSerial(shown);
 }
 
 std::optional<LRESULT> CalendarWindow::Notified(NMHDR& notification) {
@@ -92,9 +101,7 @@ std::optional<LRESULT> CalendarWindow::Notified(NMHDR& notification) {
 bool CalendarWindow::TakeKey(const MSG& message) {
   const std::optional<int> days = DaysOf(message.wParam);
   if (message.message != WM_KEYDOWN || !days || GetKeyState(VK_CONTROL) < 0) return false;
-  SYSTEMTIME shown{};
-  SendMessageW(Handle(), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&shown));
-  calendar_.PersonChose({ToSerial(shown) + *days});
+  calendar_.PersonChose({ShownDay() + *days});
   Apply(forms::Aspect::Content);
   return true;
 }
@@ -108,7 +115,7 @@ void CalendarWindow::Clicked(const SYSTEMTIME& day) {
                      static_cast<DWORD>(now - before) <= GetDoubleClickTime();
   calendar_.PersonChose({serial});
   if (!again) return;
-  clickedDay_ = 0;  // a third click begins anew
+  clickedDay_.reset();  // a third click begins anew
   calendar_.PersonDoubleClicked();
 }
 

@@ -17,11 +17,12 @@ class CalendarWindow final : public ControlWindow {
   void ApplyContent() override;
 
  private:
+  double ShownDay() const;
   void Clicked(const SYSTEMTIME& day);
 
   forms::Calendar& calendar_;
-  double clickedDay_ = 0;  // of the last click, 0 before the first
-  LONG clickedAt_ = 0;     // in milliseconds, as messages tell it
+  std::optional<double> clickedDay_;  // of the last click
+  LONG clickedAt_ = 0;                // in milliseconds, as messages tell it
 };
 
 }  // namespace rangewerks::desktops

@@ -185,16 +185,42 @@ TEST_F(Win32Controls, APictureBoxShowsItsPicture) {
   EXPECT_NE(SendMessageW(WindowOf(form->picIcon), STM_GETICON, 0, 0), 0);
 }
 
+std::vector<int> DayIn(HWND calendar) {
+  SYSTEMTIME day{};
+  SendMessageW(calendar, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&day));
+  return {day.wYear, day.wMonth, day.wDay};
+}
+
 TEST_F(Win32Controls, ACalendarIsWideEnoughAndShowsTheDayOfTheForm) {
   Show();
   const HWND calendar = WindowOf(form->calDay);
   EXPECT_GE(InnerArea(calendar).right, 240);
-  SYSTEMTIME day{};
-  SendMessageW(calendar, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&day));
-  EXPECT_THAT((std::vector<int>{day.wYear, day.wMonth, day.wDay}), ElementsAre(2023, 3, 15));
+  EXPECT_THAT(DayIn(calendar), ElementsAre(2023, 3, 15));
   form->calDay.let_Date({45100.75});
-  SendMessageW(calendar, MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&day));
-  EXPECT_THAT((std::vector<int>{day.wYear, day.wMonth, day.wDay}), ElementsAre(2023, 6, 23));
+  EXPECT_THAT(DayIn(calendar), ElementsAre(2023, 6, 23));
+}
+
+// A cell that holds 0 or a time alone.
+TEST_F(Win32Controls, ACalendarShowsDayZero) {
+  Show();
+  form->calDay.let_Date({0.5});
+  EXPECT_THAT(DayIn(WindowOf(form->calDay)), ElementsAre(1899, 12, 30));
+}
+
+TEST_F(Win32Controls, ACalendarThatCantShowADayHasTheOneThatItShows) {
+  Show();
+  form->calDay.let_Date({-150000});  // in 1489
+  EXPECT_EQ(form->calDay.get_Date().serial, 45000);
+  EXPECT_THAT(DayIn(WindowOf(form->calDay)), ElementsAre(2023, 3, 15));
+}
+
+TEST_F(Win32Controls, ACalendarGoesNoFurtherThanItsLastDay) {
+  Show();
+  form->calDay.let_Date({2958465});  // 31 December 9999
+  form->calDay.SetFocus();
+  PressKey(VK_DOWN);
+  EXPECT_EQ(form->calDay.get_Date().serial, 2958465);
+  EXPECT_THAT(DayIn(WindowOf(form->calDay)), ElementsAre(9999, 12, 31));
 }
 
 POINT PointOfDay(HWND calendar, int wanted) {
@@ -234,9 +260,7 @@ TEST_F(Win32Controls, ArrowKeysLeadACalendarByADayAndByAWeek) {
     days.push_back(form->calDay.get_Date().serial);
   }
   EXPECT_THAT(days, ElementsAre(45001, 45008, 45007, 45000));
-  SYSTEMTIME day{};
-  SendMessageW(WindowOf(form->calDay), MCM_GETCURSEL, 0, reinterpret_cast<LPARAM>(&day));
-  EXPECT_EQ(day.wDay, 15);
+  EXPECT_THAT(DayIn(WindowOf(form->calDay)), ElementsAre(2023, 3, 15));
 }
 
 // By the keys that the calendar itself knows. Wine's knows none, so that the notification is sent
