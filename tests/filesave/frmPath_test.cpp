@@ -2,51 +2,14 @@
 
 #include <gtest/gtest.h>
 
-#include <functional>
-#include <memory>
-#include <string>
 #include <vector>
 
-#include "automation/error.h"
-#include "desktops/headless/headless_desktop.h"
-#include "hosts/temporary_folder.h"
-#include "support/error_of.h"
-#include "support/fixed_system.h"
+#include "filesave/save_dialog_fixture.h"
 
 namespace rangewerks::tests {
 namespace {
 
-using desktops::HeadlessDesktop;
-
-class FrmPath : public ::testing::Test {
- protected:
-  FrmPath() {
-    settings->let_FilePath(folder.File(""));
-    settings->let_Filename("%i-%d");
-    settings->let_DoSaveFile(true);
-    settings->let_PromptOnSave(true);
-    settings->let_Identifier("ID");
-    settings->let_RegSection("Journals");
-    form.set_FileSave(settings);
-  }
-  /// Shows the dialog with the person's part in it.
-  void Show(const std::function<void()>& person) {
-    desktop.WhenShown<frmPath>([&](frmPath&) { person(); });
-    form.Show(forms::Modality::Modal);
-  }
-  void ExpectSettingsAsTheyWere() const {
-    EXPECT_EQ(settings->get_FilePath(), folder.File(""));
-    EXPECT_EQ(settings->get_Filename(), "%i-%d");
-    EXPECT_TRUE(settings->get_DoSaveFile());
-    EXPECT_TRUE(settings->get_PromptOnSave());
-  }
-
-  TemporaryFolder folder;
-  HeadlessDesktop desktop;
-  std::shared_ptr<FixedSystem> system = std::make_shared<FixedSystem>("");
-  std::shared_ptr<clsExcelFileSave> settings = std::make_shared<clsExcelFileSave>(system);
-  frmPath& form = desktop.Shared<frmPath>(system);
-};
+using FrmPath = SaveDialogTest<frmPath>;
 
 TEST_F(FrmPath, HasItsCaptionsAndAccessKeys) {
   EXPECT_EQ(form.get_Caption(), " Save To File");
@@ -134,19 +97,6 @@ TEST_F(FrmPath, WithoutSavingPassesWithAnEmptyPath) {
   EXPECT_TRUE(desktop.Messages().empty());
 }
 
-TEST_F(FrmPath, StaysOpenWithAFolderThatDoesntExistAndSaysSo) {
-  Show([&] {
-    desktop.Type(form.txtPath, folder.File("none"));
-    desktop.Click(form.cmdOk);
-    EXPECT_TRUE(form.IsVisible());
-    ExpectSettingsAsTheyWere();
-    desktop.Click(form.cmdCancel);
-  });
-  ASSERT_EQ(desktop.Messages().size(), 1U);
-  EXPECT_EQ(desktop.Messages().front().text, "File path not found or access denied");
-  EXPECT_EQ(desktop.Messages().front().flags, 16);
-}
-
 TEST_F(FrmPath, StaysOpenWithoutAPatternAndSaysSo) {
   Show([&] {
     desktop.Type(form.txtIdentifier, "");
@@ -158,27 +108,6 @@ TEST_F(FrmPath, StaysOpenWithoutAPatternAndSaysSo) {
   EXPECT_EQ(desktop.Messages().front().text, "File name or file path missing");
 }
 
-TEST_F(FrmPath, CancelLeavesTheSettingsAsTheyWere) {
-  Show([&] {
-    desktop.Type(form.txtIdentifier, "other");
-    desktop.Type(form.txtPath, "other");
-    desktop.Click(form.ChkSvFile);
-    desktop.PressEscape(form);
-  });
-  EXPECT_TRUE(form.get_Cancel());
-  EXPECT_FALSE(form.IsLoaded());
-  ExpectSettingsAsTheyWere();
-}
-
-TEST_F(FrmPath, ClosingItByItsTitleBarCancels) {
-  Show([&] {
-    desktop.Click(form.ChkSvFile);
-    desktop.Close(form);
-  });
-  EXPECT_TRUE(form.get_Cancel());
-  ExpectSettingsAsTheyWere();
-}
-
 TEST_F(FrmPath, IsNotCancelledWhenItIsCreatedAndOkTakesAnEarlierCancelBack) {
   EXPECT_FALSE(form.get_Cancel());
   Show([&] { desktop.Click(form.cmdCancel); });
@@ -187,30 +116,6 @@ TEST_F(FrmPath, IsNotCancelledWhenItIsCreatedAndOkTakesAnEarlierCancelBack) {
   EXPECT_FALSE(form.get_Cancel());
   form.let_Cancel(true);
   EXPECT_TRUE(form.get_Cancel());
-}
-
-TEST_F(FrmPath, TakesTheFolderThatThePersonPicks) {
-  Show([&] {
-    desktop.PickFolder("/picked");
-    desktop.Click(form.cmdpath);
-    EXPECT_EQ(form.txtPath.get_Text(), "/picked");
-    desktop.Click(form.cmdCancel);
-  });
-  EXPECT_EQ(desktop.FolderTitles(), std::vector<std::string>({"Please select a folder"}));
-}
-
-TEST_F(FrmPath, CancellingTheFolderDialogKeepsThePathTyped) {
-  Show([&] {
-    desktop.Type(form.txtPath, "typed");
-    desktop.Click(form.cmdpath);
-    EXPECT_EQ(form.txtPath.get_Text(), "typed");
-    desktop.Click(form.cmdCancel);
-  });
-}
-
-TEST_F(FrmPath, CantBeLoadedWithoutSettings) {
-  form.set_FileSave(nullptr);
-  EXPECT_TRUE(ErrorOf([&] { form.Load(); }).Is(automation::ErrorNumber::ObjectVariableNotSet));
 }
 
 }  // namespace
