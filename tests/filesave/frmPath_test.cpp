@@ -75,13 +75,14 @@ TEST_F(FrmPath, TickingSaveAgainEnablesTheOthersAndLeavesPromptUnticked) {
 TEST_F(FrmPath, OkTakesOverWhatThePersonHasChosen) {
   Show([&] {
     desktop.Type(form.txtIdentifier, "J%y%m%d");
+    desktop.Type(form.txtPath, folder.File("."));
     desktop.Click(form.ChkPrmtsv);
     desktop.PressEnter(form);
   });
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_FALSE(form.get_Cancel());
   EXPECT_EQ(settings->get_Filename(), "J%y%m%d");
-  EXPECT_EQ(settings->get_FilePath(), folder.File(""));
+  EXPECT_EQ(settings->get_FilePath(), folder.File("."));
   EXPECT_TRUE(settings->get_DoSaveFile());
   EXPECT_FALSE(settings->get_PromptOnSave());
   EXPECT_EQ(settings->get_Identifier(), "ID");

@@ -32,12 +32,13 @@ TEST_F(FrmSaveFile, TakesAnEarlierCancelBackWhenItLoads) {
 TEST_F(FrmSaveFile, OkTakesOverNameAndFolderAndLeavesTheRest) {
   Show([&] {
     desktop.Type(form.txtName, "other name");
+    desktop.Type(form.txtPath, folder.File("."));
     desktop.PressEnter(form);
   });
   EXPECT_FALSE(form.get_Cancel());
   EXPECT_FALSE(form.IsLoaded());
   EXPECT_EQ(settings->get_ExpandedName(), "other name");
-  EXPECT_EQ(settings->get_FilePath(), folder.File(""));
+  EXPECT_EQ(settings->get_FilePath(), folder.File("."));
   EXPECT_EQ(settings->get_Filename(), "%i-%d");
   EXPECT_TRUE(settings->get_DoSaveFile());
   EXPECT_TRUE(settings->get_PromptOnSave());
