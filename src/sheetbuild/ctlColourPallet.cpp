@@ -19,8 +19,8 @@ constexpr Colour kWhite = 0xFFFFFF;
 ctlColourPallet::ctlColourPallet(forms::Container& parent, std::string name,
                                  ControlProperties design)
     : Panel(parent, std::move(name), std::move(design)) {
-  cmdClmColour.Click = [this] { cmdClmColour_Click(); };
-  cmdHeadColour.Click = [this] { cmdHeadColour_Click(); };
+  cmdClmColour.Click = [this] { Choose(txtClmColour, columnColour_); };
+  cmdHeadColour.Click = [this] { Choose(txtHeadColour, headingColour_); };
 }
 
 ControlProperties ctlColourPallet::Swatch(double top) {
@@ -71,14 +71,11 @@ Colour ctlColourPallet::ChooseColour(Colour fallback) {
   return chosen;
 }
 
-void ctlColourPallet::cmdClmColour_Click() {
-  txtClmColour.let_BackColor(ChooseColour(txtClmColour.get_BackColor()));
-  columnColour_ = txtClmColour.get_BackColor();
-}
-
-void ctlColourPallet::cmdHeadColour_Click() {
-  txtHeadColour.let_BackColor(ChooseColour(txtHeadColour.get_BackColor()));
-  headingColour_ = txtHeadColour.get_BackColor();
+void ctlColourPallet::Choose(forms::TextBox& swatch, std::int32_t& colour) {
+  const Colour chosen = ChooseColour(swatch.get_BackColor());
+  if (!OwningForm().IsLoaded()) return;  // gone meanwhile, and using the swatch would load it anew
+  swatch.let_BackColor(chosen);
+  colour = swatch.get_BackColor();
 }
 
 }  // namespace rangewerks

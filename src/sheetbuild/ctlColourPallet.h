@@ -52,8 +52,7 @@ class ctlColourPallet final : public forms::Panel {
   static forms::ControlProperties Swatch(double top);
   static forms::ControlProperties Chooser(double top);
   forms::Colour ChooseColour(forms::Colour fallback);
-  void cmdClmColour_Click();
-  void cmdHeadColour_Click();
+  void Choose(forms::TextBox& swatch, std::int32_t& colour);
 
   std::int32_t headingColour_ = 0;
   std::int32_t columnColour_ = 0;

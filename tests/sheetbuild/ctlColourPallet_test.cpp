@@ -28,6 +28,15 @@ class DesktopWithoutColours final : public HeadlessDesktop {
   }
 };
 
+/// A form that goes while the person chooses a colour.
+class DesktopThatUnloads final : public HeadlessDesktop {
+ public:
+  std::optional<forms::Colour> ChooseColour(forms::Form* owner) override {
+    owner->Unload();
+    return std::nullopt;
+  }
+};
+
 class frmWithPanel final : public forms::Form {
  public:
   explicit frmWithPanel(forms::Toolkit& toolkit) : Form(toolkit, "frmWithPanel", {}) {}
@@ -176,6 +185,14 @@ TEST(CtlColourPalletDialog, ThatFailsLeavesTheSwatchAsItWas) {
   desktop.Click(form->panel.cmdClmColour);
   EXPECT_EQ(form->panel.txtClmColour.get_BackColor(), 0x123456);
   EXPECT_TRUE(desktop.Messages().empty());
+}
+
+TEST(CtlColourPalletDialog, DoesntBringAFormBackThatHasGoneMeanwhile) {
+  DesktopThatUnloads desktop;
+  const auto form = std::make_shared<frmWithPanel>(desktop);
+  form->Show();
+  desktop.Click(form->panel.cmdHeadColour);
+  EXPECT_FALSE(form->IsLoaded());
 }
 
 TEST_F(CtlColourPallet, IsCalledByNameLikeAnyPublicClass) {
