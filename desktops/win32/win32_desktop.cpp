@@ -37,7 +37,8 @@ std::shared_ptr<forms::FormWindow> Win32Desktop::MakeWindow(forms::Form& form) {
 
 void Win32Desktop::RunModal(forms::Form& form) {
   auto* window = static_cast<Win32FormWindow*>(form.Window());
-  if (window != nullptr && !window->RunModal()) form.Hide();  // the thread ends
+  // When the thread ends, nobody has answered the form.
+  if (window != nullptr && !window->RunModal()) form.PersonClosed();
 }
 
 forms::Answer Win32Desktop::ShowMessage(const forms::Message& message, forms::Form* owner) {

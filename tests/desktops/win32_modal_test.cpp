@@ -130,10 +130,14 @@ TEST_F(Win32Modal, AFormOverAModalFormLeavesThatOneDisabledUntilItGoes) {
   EXPECT_TRUE(IsWindowEnabled(host_));
 }
 
-TEST_F(Win32Modal, TheEndOfTheThreadEndsItAndIsLeftForTheLoopOutside) {
-  Meanwhile([] { PostQuitMessage(7); });
+TEST_F(Win32Modal, TheEndOfTheThreadClosesItAndIsLeftForTheLoopOutside) {
+  Meanwhile([&] {
+    form->TakeTold();
+    PostQuitMessage(7);
+  });
   form->Show(forms::Modality::Modal);
-  EXPECT_FALSE(form->IsVisible());
+  EXPECT_FALSE(form->IsLoaded());
+  EXPECT_THAT(form->TakeTold(), ElementsAre("Form_QueryUnload", "Form_Unload"));
   EXPECT_TRUE(IsWindowEnabled(host_));
   MSG message{};
   while (GetMessageW(&message, nullptr, 0, 0) > 0) DispatchMessageW(&message);
