@@ -75,8 +75,8 @@ void InPlace::DeactivateUserInterface() {
 }
 
 void InPlace::Deactivate() {
-  if (!IsActive()) return;
   DeactivateUserInterface();
+  if (!IsActive()) return;  // or no longer: a container may do it when told of the user interface
   const Pointer<IOleInPlaceSite> site = site_;
   if (window_ != nullptr) {
     EndWatch();

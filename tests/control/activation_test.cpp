@@ -157,6 +157,16 @@ TEST_F(AnActiveControl, LeavesTheContainersWindowWhenItIsDeactivated) {
   EXPECT_EQ(none, nullptr);
 }
 
+TEST_F(AnActiveControl, IsDeactivatedOnceByAContainerThatDoesItWithTheUserInterface) {
+  Activate(OLEIVERB_UIACTIVATE);
+  container.TakeCalls();
+  const auto object = Ask<IOleInPlaceObject>();
+  container.deactivated = object.Get();
+  EXPECT_EQ(object->InPlaceDeactivate(), S_OK);
+  EXPECT_THAT(container.TakeCalls(),
+              ElementsAre("no active object", "no user interface", "inactive"));
+}
+
 TEST_F(AnActiveControl, KeepsItsColoursWhenItIsDeactivatedAndActivatedAnew) {
   Activate(OLEIVERB_SHOW);
   panel->put_ColumnColour(0x112233);

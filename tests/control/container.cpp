@@ -95,6 +95,7 @@ HRESULT Site::GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** d
 
 HRESULT Site::OnUIDeactivate(BOOL /*undoable*/) noexcept {
   container.calls.emplace_back("no user interface");
+  if (container.deactivated != nullptr) container.deactivated->InPlaceDeactivate();
   return S_OK;
 }
 

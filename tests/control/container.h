@@ -118,6 +118,8 @@ class Container {
   RECT place{20, 30, 413, 159};
   bool allows = true;      ///< that the control becomes active
   bool takesTabs = false;  ///< that leave the control
+  /// Is deactivated as soon as it has given the user interface back.
+  IOleInPlaceObject* deactivated = nullptr;
   std::vector<std::string> calls;
   Frame frame{*this};
   Site site{*this};
