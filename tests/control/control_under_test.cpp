@@ -4,6 +4,9 @@
 #include <filesystem>
 #include <string>
 
+#include "desktops/win32_input.h"
+#include "desktops/win32_person.h"
+
 namespace rangewerks::tests {
 
 Look LookOf(IUnknown& control, int width, int height) {
@@ -97,10 +100,9 @@ std::vector<HWND> ControlTest::Fields(const wchar_t* className) const {
       ControlWindow(),
       [](HWND window, LPARAM parameter) -> BOOL {
         auto& sought = *reinterpret_cast<Search*>(parameter);
-        wchar_t name[32] = {};
-        GetClassNameW(window, name, 32);
         const LONG style = GetWindowLongW(window, GWL_STYLE);
-        if (sought.className == name && (style & WS_TABSTOP) != 0) sought.found.push_back(window);
+        if (sought.className == ClassOf(window) && (style & WS_TABSTOP) != 0)
+          sought.found.push_back(window);
         return TRUE;
       },
       reinterpret_cast<LPARAM>(&search));
@@ -113,30 +115,18 @@ std::vector<HWND> ControlTest::Fields(const wchar_t* className) const {
 }
 
 void ControlTest::Click(HWND window) const {
-  RECT place{};
-  GetWindowRect(window, &place);
-  SetCursorPos((place.left + place.right) / 2, (place.top + place.bottom) / 2);
-  INPUT press{};
-  press.type = INPUT_MOUSE;
-  press.mi.dwFlags = MOUSEEVENTF_LEFTDOWN;
-  INPUT release = press;
-  release.mi.dwFlags = MOUSEEVENTF_LEFTUP;
-  SendInput(1, &press, sizeof(press));
-  SendInput(1, &release, sizeof(release));
+  RECT area{};
+  GetClientRect(window, &area);
+  PointAt(window, {area.right / 2, area.bottom / 2});
+  Send(Clicks(1));
 }
 
 void ControlTest::TypeTab(bool shift) const {
-  const auto send = [](WORD key, DWORD flags) {
-    INPUT input{};
-    input.type = INPUT_KEYBOARD;
-    input.ki.wVk = key;
-    input.ki.dwFlags = flags;
-    SendInput(1, &input, sizeof(input));
-  };
-  if (shift) send(VK_SHIFT, 0);
-  send(VK_TAB, 0);
-  send(VK_TAB, KEYEVENTF_KEYUP);
-  if (shift) send(VK_SHIFT, KEYEVENTF_KEYUP);
+  if (shift) {
+    Send(KeysTogether({VK_SHIFT, VK_TAB}));
+  } else {
+    Send(KeysTogether({VK_TAB}));
+  }
 }
 
 }  // namespace rangewerks::tests

@@ -1,9 +1,10 @@
 #include "desktops/win32_hands.h"
 
 #include <algorithm>
-#include <array>
 #include <chrono>
 #include <vector>
+
+#include "desktops/win32_input.h"
 
 namespace rangewerks::tests {
 
@@ -11,31 +12,6 @@ namespace {
 
 /// A form's windows are numbered from here, in the order of declaration.
 constexpr int kFirstControl = 1000;
-
-void Send(std::vector<INPUT> input) {
-  SendInput(static_cast<UINT>(input.size()), input.data(), sizeof(INPUT));
-}
-
-INPUT Key(WORD key, bool up) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-  return input;
-}
-
-INPUT Button(DWORD flag) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flag;
-  return input;
-}
-
-void PointAt(HWND window, POINT point) {
-  ClientToScreen(window, &point);
-  SetCursorPos(point.x, point.y);
-}
 
 void AddAll(const forms::Container& container, std::vector<const forms::Control*>& controls) {
   for (const forms::Control* control : container.Children()) {
@@ -97,14 +73,7 @@ bool SettleUntil(const std::function<bool()>& condition) {
 }
 
 void QueueKeys(std::initializer_list<std::initializer_list<WORD>> groups) {
-  std::vector<INPUT> input;
-  for (const auto& keys : groups) {
-    for (const WORD key : keys) input.push_back(Key(key, false));
-    for (auto key = std::rbegin(keys); key != std::rend(keys); ++key) {
-      input.push_back(Key(*key, true));
-    }
-  }
-  Send(std::move(input));
+  for (const auto& keys : groups) Send(KeysTogether(keys));
 }
 
 void PressKeys(std::initializer_list<WORD> keys) {
@@ -115,15 +84,14 @@ void PressKeys(std::initializer_list<WORD> keys) {
 void Click(HWND window, POINT point) {
   PointAt(window, point);
   Settle();
-  Send({Button(MOUSEEVENTF_LEFTDOWN), Button(MOUSEEVENTF_LEFTUP)});
+  Send(Clicks(1));
   Settle();
 }
 
 void DoubleClick(HWND window, POINT point) {
   PointAt(window, point);
   Settle();
-  Send({Button(MOUSEEVENTF_LEFTDOWN), Button(MOUSEEVENTF_LEFTUP), Button(MOUSEEVENTF_LEFTDOWN),
-        Button(MOUSEEVENTF_LEFTUP)});
+  Send(Clicks(2));
   Settle();
 }
 
@@ -151,12 +119,6 @@ std::string Focused(forms::Form& form) {
     if (focus != nullptr && WindowOf(*control) == focus) return control->get_Name();
   }
   return {};
-}
-
-std::wstring ClassOf(HWND window) {
-  std::array<wchar_t, 64> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return name.data();
 }
 
 RECT InnerArea(HWND window) {

@@ -37,7 +37,6 @@ HWND WindowOf(const forms::Control& control);
 /// The name of the control that has the keyboard; empty when none of the form's has it.
 std::string Focused(forms::Form& form);
 
-std::wstring ClassOf(HWND window);
 RECT InnerArea(HWND window);
 /// The colour of a pixel of a window's inner area, as it was painted.
 COLORREF PixelAt(HWND window, POINT point);

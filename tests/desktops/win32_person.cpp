@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
 #include <chrono>
 #include <utility>
 
@@ -19,9 +20,7 @@ BOOL CALLBACK Consider(HWND window, LPARAM parameter) {
   DWORD process = 0;
   GetWindowThreadProcessId(window, &process);
   if (process != GetCurrentProcessId() || IsWindowVisible(window) == 0) return TRUE;
-  wchar_t name[16] = {};
-  GetClassNameW(window, name, 16);
-  if (std::wstring(name) != L"#32770") return TRUE;
+  if (ClassOf(window) != L"#32770") return TRUE;
   if (search.owner != nullptr && GetWindow(window, GW_OWNER) != search.owner) return TRUE;
   search.found = window;
   return FALSE;
@@ -84,5 +83,11 @@ std::wstring TextOf(HWND window) {
 }
 
 std::wstring TextOf(HWND dialog, int id) { return TextOf(GetDlgItem(dialog, id)); }
+
+std::wstring ClassOf(HWND window) {
+  std::array<wchar_t, 64> name{};
+  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
+  return name.data();
+}
 
 }  // namespace rangewerks::tests

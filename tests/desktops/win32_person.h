@@ -39,5 +39,6 @@ void TypeKey(HWND dialog, WPARAM key);
 void Write(HWND dialog, int id, const std::wstring& text);
 std::wstring TextOf(HWND window);
 std::wstring TextOf(HWND dialog, int id);
+std::wstring ClassOf(HWND window);
 
 }  // namespace rangewerks::tests

@@ -47,7 +47,9 @@ endif()
 
 # A container of controls, on a display of its own.
 rangewerks_tests(control com_bridge forms rangewerks_interfaces gdi32)
-target_sources(test_control PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_person.cpp")
+target_sources(test_control PRIVATE
+  "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_input.cpp"
+  "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_person.cpp")
 target_compile_definitions(test_control PRIVATE
   RANGEWERKS_SAMPLE_PROGRAM="${root}$<TARGET_FILE_DIR:posting>")
 add_dependencies(test_control posting_servers)

@@ -3,6 +3,7 @@
 rangewerks_tests(windows_desktop com_bridge admin browse errors filesave sheetbuild desktops_win32
   systems_windows rangewerks_interfaces psapi)
 target_sources(test_windows_desktop PRIVATE
+  "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_input.cpp"
   "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_person.cpp"
   "${CMAKE_CURRENT_SOURCE_DIR}/desktops/win32_possessions.cpp"
   "${CMAKE_CURRENT_SOURCE_DIR}/windows/server_under_test.cpp"

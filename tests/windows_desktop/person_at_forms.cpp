@@ -3,10 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <array>
 #include <atomic>
 #include <cctype>
 #include <thread>
+
+#include "desktops/win32_input.h"
 
 namespace rangewerks::tests {
 
@@ -34,12 +35,6 @@ std::vector<HWND> VisibleWindows() {
   return windows;
 }
 
-std::wstring ClassOf(HWND window) {
-  std::array<wchar_t, 64> name{};
-  GetClassNameW(window, name.data(), static_cast<int>(name.size()));
-  return name.data();
-}
-
 bool IsControl(HWND window, const std::wstring& className) {
   constexpr int kFirstControl = 1000;  // parts of controls are numbered otherwise
   return ClassOf(window) == className && GetDlgCtrlID(window) >= kFirstControl;
@@ -52,36 +47,10 @@ HWND FocusOf(HWND form) {
   return state.hwndFocus;
 }
 
-INPUT Key(WORD key, bool up) {
-  INPUT input{};
-  input.type = INPUT_KEYBOARD;
-  input.ki.wVk = key;
-  input.ki.wScan = static_cast<WORD>(MapVirtualKeyW(key, MAPVK_VK_TO_VSC));
-  input.ki.dwFlags = up ? KEYEVENTF_KEYUP : 0;
-  return input;
-}
-
-INPUT Button(DWORD flag) {
-  INPUT input{};
-  input.type = INPUT_MOUSE;
-  input.mi.dwFlags = flag;
-  return input;
-}
-
-void Send(std::vector<INPUT> input) {
-  SendInput(static_cast<UINT>(input.size()), input.data(), sizeof(INPUT));
-}
-
 void ClickTimes(HWND window, POINT point, int times) {
   EXPECT_TRUE(WaitUntil([&] { return IsWindowEnabled(window) != FALSE; }));
-  ClientToScreen(window, &point);
-  SetCursorPos(point.x, point.y);
-  std::vector<INPUT> input;
-  for (int i = 0; i < times; ++i) {
-    input.push_back(Button(MOUSEEVENTF_LEFTDOWN));
-    input.push_back(Button(MOUSEEVENTF_LEFTUP));
-  }
-  Send(std::move(input));
+  PointAt(window, point);
+  Send(Clicks(times));
 }
 
 /// So that the one that waits in a form goes on.
@@ -209,11 +178,7 @@ void PressKeys(HWND form, std::initializer_list<WORD> keys) {
     const HWND focus = FocusOf(form);
     return GetForegroundWindow() == form && (focus == form || IsChild(form, focus) != FALSE);
   })) << "the form isn't in front";
-  std::vector<INPUT> input;
-  for (const WORD key : keys) input.push_back(Key(key, false));
-  for (auto key = std::rbegin(keys); key != std::rend(keys); ++key)
-    input.push_back(Key(*key, true));
-  Send(std::move(input));
+  Send(KeysTogether(keys));
 }
 
 void Type(HWND form, const std::string& text) {
