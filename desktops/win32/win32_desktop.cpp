@@ -37,8 +37,10 @@ std::shared_ptr<forms::FormWindow> Win32Desktop::MakeWindow(forms::Form& form) {
 
 void Win32Desktop::RunModal(forms::Form& form) {
   auto* window = static_cast<Win32FormWindow*>(form.Window());
-  // When the thread ends, nobody has answered the form.
-  if (window != nullptr && !window->RunModal()) form.PersonClosed();
+  if (window == nullptr || window->RunModal()) return;
+  // The thread ends, and nobody has answered the form.
+  form.PersonClosed();
+  if (form.IsVisible()) form.Hide();  // its own code has failed
 }
 
 forms::Answer Win32Desktop::ShowMessage(const forms::Message& message, forms::Form* owner) {
