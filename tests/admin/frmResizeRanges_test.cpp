@@ -3,8 +3,11 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
+#include <vector>
 
 #include "desktops/headless/headless_desktop.h"
+#include "support/control_names.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -63,6 +66,11 @@ TEST_F(FrmResizeRanges, HasItsTextsTooltipsAndPictures) {
   EXPECT_EQ(form.cmdCancel.get_Caption(), "Cancel");
   EXPECT_EQ(form.cmdCancel.get_ToolTipText(), "Cancel Changes");
   EXPECT_EQ(form.cmdCancel.Properties().picture, forms::Picture::Cancel);
+}
+
+TEST_F(FrmResizeRanges, HasItsControlsByNameInTheTabOrder) {
+  EXPECT_EQ(ControlNames(form), std::vector<std::string>({"lblPrompt", "txtResizeRows",
+                                                          "lblInvalid", "cmdOK", "cmdCancel"}));
 }
 
 TEST_F(FrmResizeRanges, AcceptsOneAndTheLimitItself) {

@@ -12,6 +12,7 @@
 #include "browse/frmBrowseCalendar.h"
 #include "desktops/headless/headless_desktop.h"
 #include "hosts/workbook/host.h"
+#include "support/control_names.h"
 #include "support/error_of.h"
 #include "support/fixed_system.h"
 #include "support/matches_regex.h"
@@ -195,6 +196,12 @@ TEST(FrmBrowseCalendar, HasItsCaptionsTooltipsAndPictures) {
   EXPECT_EQ(form.cmdCancel.get_Caption(), "Cancel");
   EXPECT_EQ(form.cmdCancel.get_ToolTipText(), "Cancel Changes");
   EXPECT_EQ(form.cmdCancel.Properties().picture, forms::Picture::Cancel);
+}
+
+TEST(FrmBrowseCalendar, HasItsControlsByNameInTheTabOrder) {
+  HeadlessDesktop desktop;
+  EXPECT_EQ(ControlNames(frmBrowseCalendar(desktop)),
+            Lines({"TDBCalendar1", "cmdOK", "cmdCancel"}));
 }
 
 TEST(FrmBrowseCalendar, KeepsWhatWasPickedUntilItIsLoadedAnew) {

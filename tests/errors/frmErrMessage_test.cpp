@@ -8,8 +8,8 @@
 #include "automation/error.h"
 #include "desktops/headless/headless_desktop.h"
 #include "errors/ErrorMessageBox.h"
-#include "errors/control_names.h"
 #include "errors/frmErrorDesc.h"
+#include "support/control_names.h"
 #include "support/fixed_system.h"
 
 namespace rangewerks::tests {

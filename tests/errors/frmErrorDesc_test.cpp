@@ -8,9 +8,9 @@
 
 #include "desktops/headless/headless_desktop.h"
 #include "errors/ErrorMessageBox.h"
-#include "errors/control_names.h"
 #include "errors/fake_mail.h"
 #include "errors/frmErrMessage.h"
+#include "support/control_names.h"
 #include "support/fixed_system.h"
 
 namespace rangewerks::tests {

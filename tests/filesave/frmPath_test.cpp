@@ -2,9 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
 #include <vector>
 
 #include "filesave/save_dialog_fixture.h"
+#include "support/control_names.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -22,8 +24,15 @@ TEST_F(FrmPath, HasItsCaptionsAndAccessKeys) {
   EXPECT_EQ(form.cmdCancel.get_Caption(), "&Cancel");
 }
 
+TEST_F(FrmPath, HasItsControlsByNameInTheTabOrder) {
+  EXPECT_EQ(ControlNames(form),
+            std::vector<std::string>({"lblSvfile", "ChkSvFile", "lblPrmtSave", "ChkPrmtsv",
+                                      "lblPath", "txtPath", "cmdpath", "lblfileformat",
+                                      "txtIdentifier", "frmidentifier", "cmdOk", "cmdCancel"}));
+  EXPECT_EQ(ControlNames(form.frmidentifier), std::vector<std::string>({"txtIdentifiers"}));
+}
+
 TEST_F(FrmPath, HasALegendOfTheCodesThatCantBeChanged) {
-  EXPECT_EQ(form.frmidentifier.Children(), std::vector<forms::Control*>({&form.txtIdentifiers}));
   EXPECT_EQ(form.txtIdentifiers.get_Text(),
             "%i   - Identifier\r\n%d  - Day\r\n%m - Month\r\n%y  - Year\r\n%u  - Windows User\r\n");
   EXPECT_TRUE(form.txtIdentifiers.Properties().multiLine);

@@ -2,7 +2,11 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "filesave/save_dialog_fixture.h"
+#include "support/control_names.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -16,6 +20,12 @@ TEST_F(FrmSaveFile, HasItsCaptionsAndAccessKeys) {
   EXPECT_EQ(form.cmdpath.get_Caption(), "...");
   EXPECT_EQ(form.cmdOk.get_Caption(), "&OK");
   EXPECT_EQ(form.cmdCancel.get_Caption(), "&Cancel");
+}
+
+TEST_F(FrmSaveFile, HasItsControlsByNameInTheTabOrder) {
+  EXPECT_EQ(ControlNames(form),
+            std::vector<std::string>(
+                {"lblfile", "txtName", "lblPath", "txtPath", "cmdpath", "cmdOk", "cmdCancel"}));
 }
 
 TEST_F(FrmSaveFile, ShowsTheExpandedNameAndTheFolder) {

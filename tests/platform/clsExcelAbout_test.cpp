@@ -9,6 +9,7 @@
 
 #include "desktops/headless/headless_desktop.h"
 #include "platform/frmExcelAbout.h"
+#include "support/control_names.h"
 #include "support/fixed_system.h"
 
 namespace rangewerks::tests {
@@ -130,9 +131,16 @@ TEST(FrmExcelAbout, HasItsDesignTextsAndSigns) {
   EXPECT_EQ(form.lblDisclaimer.get_Caption(), "Warning: ...");
   EXPECT_EQ(form.cmdOK.get_Caption(), "OK");
   EXPECT_EQ(form.cmdSysInfo.get_Caption(), "&System Info...");
-  EXPECT_EQ(form.Line1.get_Name(), "Line1");
-  EXPECT_EQ(form.SecondLine1.get_Name(), "Line1");
+  EXPECT_EQ(form.Line1.Kind(), forms::ControlKind::Line);
   EXPECT_EQ(form.SecondLine1.Kind(), forms::ControlKind::Line);
+}
+
+TEST(FrmExcelAbout, HasItsControlsByNameInTheTabOrder) {
+  HeadlessDesktop desktop;
+  const frmExcelAbout form(desktop, std::make_shared<FixedSystem>("Rangewerks.dll"));
+  EXPECT_EQ(ControlNames(form), std::vector<std::string>({"picIcon", "lblTitle", "txtVersion",
+                                                          "Line1", "lblDescription", "Line1",
+                                                          "lblDisclaimer", "cmdOK", "cmdSysInfo"}));
 }
 
 TEST_F(ClsExcelAbout, StartsTheProgramWhosePathIsStored) {

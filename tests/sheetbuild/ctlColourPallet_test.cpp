@@ -9,6 +9,7 @@
 #include "automation/error.h"
 #include "desktops/headless/headless_desktop.h"
 #include "sheetbuild/colour_pallet_object.h"
+#include "support/control_names.h"
 
 namespace rangewerks::tests {
 namespace {
@@ -53,11 +54,10 @@ class CtlColourPallet : public ::testing::Test {
 };
 
 TEST_F(CtlColourPallet, HasAFrameThatHoldsLabelsSwatchesAndButtonsWithAPalette) {
-  EXPECT_EQ(panel.Children(), std::vector<forms::Control*>({&panel.frmControl}));
-  EXPECT_EQ(panel.frmControl.Children(),
-            std::vector<forms::Control*>({&panel.lblClmcolour, &panel.txtClmColour,
-                                          &panel.cmdClmColour, &panel.lblHeadColour,
-                                          &panel.txtHeadColour, &panel.cmdHeadColour}));
+  EXPECT_EQ(ControlNames(panel), std::vector<std::string>({"frmControl"}));
+  EXPECT_EQ(ControlNames(panel.frmControl),
+            std::vector<std::string>({"lblClmcolour", "txtClmColour", "cmdClmColour",
+                                      "lblHeadColour", "txtHeadColour", "cmdHeadColour"}));
   EXPECT_EQ(panel.frmControl.get_Caption(), "");
   EXPECT_EQ(panel.lblClmcolour.get_Caption(), "Column Colour");
   EXPECT_EQ(panel.lblHeadColour.get_Caption(), "Heading Colour");

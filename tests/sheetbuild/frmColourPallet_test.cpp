@@ -10,6 +10,7 @@
 #include "automation/error.h"
 #include "desktops/headless/headless_desktop.h"
 #include "platform/basRegistry.h"
+#include "support/control_names.h"
 #include "support/error_of.h"
 #include "support/memory_registry.h"
 
@@ -76,10 +77,10 @@ TEST_F(FrmColourPallet, HasItsCaptionsAndFont) {
   EXPECT_EQ(form.cmdCancel.get_Caption(), "Cancel");
 }
 
-TEST_F(FrmColourPallet, HasItsControlsInTheOrderInWhichTheyStand) {
-  EXPECT_EQ(form.Children(),
-            std::vector<forms::Control*>({&form.chkRngColor, &range, &form.chkAltRngColor,
-                                          &alternate, &form.cmdOk, &form.cmdCancel}));
+TEST_F(FrmColourPallet, HasItsControlsByNameInTheTabOrder) {
+  EXPECT_EQ(ControlNames(form),
+            std::vector<std::string>({"chkRngColor", "ctlColourPallet1", "chkAltRngColor",
+                                      "ctlColourPallet2", "cmdOk", "cmdCancel"}));
 }
 
 TEST_F(FrmColourPallet, IsDesignedWithTwoPanelsOfOneSize) {
