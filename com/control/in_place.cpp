@@ -35,9 +35,13 @@ void InPlace::Activate() {
   RECT clip{};
   OLEINPLACEFRAMEINFO keys{};
   keys.cb = sizeof(keys);
-  Require(site->GetWindowContext(frame_.Receive(), document_.Receive(), &place, &clip, &keys));
+  Pointer<IOleInPlaceFrame> frame;
+  Pointer<IOleInPlaceUIWindow> document;
+  Require(site->GetWindowContext(frame.Receive(), document.Receive(), &place, &clip, &keys));
   Require(site->OnInPlaceActivate());
   site_ = site;
+  frame_ = frame;
+  document_ = document;
   try {
     parts_.form.StandIn(container, place);
     window_ = parts_.form.Window();

@@ -188,6 +188,16 @@ TEST_F(AnActiveControl, IsNotMadeWhereTheContainerRefusesIt) {
   EXPECT_THAT(container.TakeCalls(), ElementsAre("may it?"));
 }
 
+TEST_F(AnActiveControl, IsNotMadeWhereTheContainerFailsAndHoldsNothingOfIt) {
+  container.fails = true;
+  Insert();
+  EXPECT_EQ(Ask<IOleObject>()->DoVerb(OLEIVERB_SHOW, nullptr, &container.site, 0, container.window,
+                                      &container.place),
+            E_FAIL);
+  EXPECT_EQ(container.frame.references, 0U);
+  EXPECT_EQ(container.site.references, 1U);  // as its site
+}
+
 TEST_F(AnActiveControl, IsNotMadeWithoutASite) {
   EXPECT_EQ(Ask<IOleObject>()->DoVerb(OLEIVERB_SHOW, nullptr, nullptr, 0, container.window,
                                       &container.place),

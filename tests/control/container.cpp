@@ -74,7 +74,7 @@ HRESULT Site::CanInPlaceActivate() noexcept {
 
 HRESULT Site::OnInPlaceActivate() noexcept {
   container.calls.emplace_back("active");
-  return S_OK;
+  return container.fails ? E_FAIL : S_OK;
 }
 
 HRESULT Site::OnUIActivate() noexcept {

@@ -117,6 +117,7 @@ class Container {
   HWND window;
   RECT place{20, 30, 413, 159};
   bool allows = true;      ///< that the control becomes active
+  bool fails = false;      ///< when the control does
   bool takesTabs = false;  ///< that leave the control
   /// Is deactivated as soon as it has given the user interface back.
   IOleInPlaceObject* deactivated = nullptr;
