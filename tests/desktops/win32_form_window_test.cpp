@@ -60,6 +60,18 @@ TEST_F(Win32FormWindow, FollowsCaptionAndPlaceWithoutReportingThemBack) {
   EXPECT_EQ(form->OuterPlace(), (forms::Place{1500, 750, 12000, 9000}));
 }
 
+TEST_F(Win32FormWindow, AFormMayGrowFromAHeightOf0ThoughNoWindowIsThatLow) {
+  form->Load();
+  form->let_Height(0);
+  EXPECT_EQ(form->get_Height(), 0);
+  for (int rows = 0; rows < 24; ++rows) form->let_Height(form->get_Height() + 250);
+  EXPECT_EQ(form->get_Height(), 6000);
+  form->Show();
+  Settle();
+  EXPECT_EQ(form->get_Height(), 6000);
+  ExpectToStandWhereTheFormSays();
+}
+
 TEST_F(Win32FormWindow, APersonsMoveIsNoChangeOfSize) {
   Show();
   form->let_Width(10007);  // not a whole number of pixels

@@ -6,6 +6,8 @@
 
 #include <array>
 #include <cstring>
+#include <string>
+#include <vector>
 
 namespace rangewerks::tests {
 namespace {
@@ -125,6 +127,24 @@ TEST_F(Win32Lists, SelectingANodeByCodeTellsNothingAndNoNodeIsSelectedByItself) 
   form->tree.set_SelectedItem(nullptr);
   EXPECT_EQ(Next(nullptr, TVGN_CARET), nullptr);
   EXPECT_THAT(form->TakeTold(), IsEmpty());
+}
+
+TEST_F(Win32Lists, AHandlerMayDeselectTheNodeThatWasClickedAndIsToldOfTheNextClickOnIt) {
+  Show();
+  std::vector<std::string> told;
+  form->tree.NodeClick = [&](forms::TreeNode& node) {
+    told.push_back(node.get_Key());
+    form->tree.set_SelectedItem(nullptr);
+  };
+  const HWND tree = WindowOf(form->tree);
+  const HTREEITEM amount = Next(Root(), TVGN_NEXT);
+  for (int clicks = 1; clicks <= 2; ++clicks) {
+    Click(tree, PointOfNode(amount));
+    EXPECT_EQ(told, std::vector<std::string>(static_cast<std::size_t>(clicks), "c"));
+    EXPECT_EQ(Next(nullptr, TVGN_CARET), nullptr);
+    EXPECT_EQ(form->tree.Selected(), nullptr);
+    Sleep(GetDoubleClickTime() + 50);
+  }
 }
 
 TEST_F(Win32Lists, LabelsOfATreeAreEditedOnlyWhenTheFormAllowsIt) {
