@@ -85,7 +85,9 @@ forms::Size Win32Desktop::Screen() {
     area = {0, 0, GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)};
   }
   const int dpi = DpiOfScreen();
-  return {ToTwips(WidthOf(area), dpi), ToTwips(HeightOf(area), dpi)};
+  // Places count from the screen's corner: what is as far to the right as the screen is wide ends
+  // at its edge, though a bar lies at the left.
+  return {ToTwips(area.right, dpi), ToTwips(area.bottom, dpi)};
 }
 
 void Win32Desktop::ShowHelp(const std::string& file) {

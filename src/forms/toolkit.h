@@ -96,7 +96,8 @@ class Toolkit {
   virtual void SetMousePointer(MousePointer pointer) = 0;
   /// What SetMousePointer was given last, for code that puts it back.
   virtual MousePointer Pointer() const = 0;
-  /// The screen that the person works on, without the bars of the desktop, in twips.
+  /// The screen that the person works on, up to the bars of the desktop at its right and lower
+  /// edges, in twips.
   virtual Size Screen() = 0;
   /// Opens a help file.
   virtual void ShowHelp(const std::string& file) = 0;

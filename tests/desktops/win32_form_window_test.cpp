@@ -50,6 +50,20 @@ TEST_F(Win32FormWindow, StandsInTheMiddleOfTheScreen) {
   EXPECT_EQ(Outer().top, ToPixels((screen.height - form->get_Height()) / 2, DpiOfScreen()));
 }
 
+TEST_F(Win32FormWindow, LiesAtTheRightEdgeOfTheScreenThoughABarIsAtTheLeft) {
+  RECT whole{};
+  ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &whole, 0));
+  RECT beside{whole.left + 100, whole.top + 50, whole.right, whole.bottom};
+  ASSERT_TRUE(SystemParametersInfoW(SPI_SETWORKAREA, 0, &beside, 0));
+  RECT now{};
+  ASSERT_TRUE(SystemParametersInfoW(SPI_GETWORKAREA, 0, &now, 0));
+  Show();
+  form->let_Left(desktop.Screen().width - form->get_Width());
+  EXPECT_EQ(now.left, 100);
+  EXPECT_EQ(Outer().right, whole.right);
+  ASSERT_TRUE(SystemParametersInfoW(SPI_SETWORKAREA, 0, &whole, 0));
+}
+
 TEST_F(Win32FormWindow, FollowsCaptionAndPlaceWithoutReportingThemBack) {
   Show();
   form->let_Caption("R\xC3\xA4nge \xE2\x82\xAC");
