@@ -92,6 +92,10 @@ std::string QuotedSheetName(std::string_view name) {
   return quoted + "'";
 }
 
+std::string PlaceOf(std::string_view sheet, const Area& area) {
+  return QuotedSheetName(sheet) + "!" + AddressOf(area);
+}
+
 SheetAndRest SplitSheet(std::string_view reference) {
   if (!reference.starts_with('\'')) {
     const std::size_t mark = reference.rfind('!');

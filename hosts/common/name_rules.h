@@ -4,6 +4,8 @@
 #include <string>
 #include <string_view>
 
+#include "hosts/common/area.h"
+
 namespace rangewerks::hosts {
 
 /// Why a defined name can't be called that, as the end of a sentence such as "it holds a blank";
@@ -19,6 +21,9 @@ std::string FaultOfModuleName(std::string_view name);
 /// The sheet's name as references show it: in apostrophes, its own apostrophes doubled, when it
 /// isn't made of letters, digits, "_" and "." alone, begins with a digit or looks like a cell.
 std::string QuotedSheetName(std::string_view name);
+
+/// Cells with their sheet, as references show them: "'Data Sheet'!$C$3".
+std::string PlaceOf(std::string_view sheet, const Area& area);
 
 /// A reference such as "'Data Sheet'!$A$1" taken apart at its "!". Without one the sheet is empty.
 struct SheetAndRest {

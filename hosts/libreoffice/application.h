@@ -1,13 +1,13 @@
 // The late-bound Application: the office itself.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Application final : public HostObject {
+class Application final : public OfficeObject<> {
  public:
-  explicit Application(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit Application(SessionPointer session) : OfficeObject(std::move(session)) {}
   static std::shared_ptr<Application> Of(const SessionPointer& session);
   const MemberTable& Members() const override;
   const SessionPointer& OfSession() const noexcept { return Office(); }

@@ -111,8 +111,7 @@ void Border::Draw(const BorderLine2& line) {
   const bool isThere = (index_ != excel::xlInsideHorizontal || area.rows > 1) &&
                        (index_ != kInsideVertical || area.columns > 1);
   if (!isThere) {
-    Fail(QuotedSheetName(OnSheet().Name()) + "!" + AddressOf(area) +
-         " has no lines inside in that direction");
+    Fail(PlaceOf(OnSheet().Name(), area) + " has no lines inside in that direction");
   }
   const Edge& edge = *FindEdge(index_);
   TableBorder2 lines;

@@ -7,7 +7,7 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-class Border final : public CellsPart {
+class Border final : public CellsPart<> {
  public:
   /// Raises 1004 for an index that isn't an edge nor an inside.
   Border(SessionPointer session, CellBlock cells, std::int32_t index);

@@ -8,8 +8,8 @@
 
 #include "hosts/common/captions.h"
 #include "hosts/libreoffice/failure.h"
-#include "hosts/libreoffice/host_object.h"
 #include "hosts/libreoffice/menu_interception.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 namespace {

@@ -28,9 +28,7 @@ using automation::Variant;
 using Cell = Reference<css::table::XCell>;
 using Kind = CellEntry::Kind;
 
-std::string Place(Sheet& sheet, const Area& area) {
-  return QuotedSheetName(sheet.Name()) + "!" + AddressOf(area);
-}
+std::string Place(Sheet& sheet, const Area& area) { return PlaceOf(sheet.Name(), area); }
 
 bool IsLocked(const Reference<css::uno::XInterface>& cells) {
   return Property<css::util::CellProtection>(As<css::beans::XPropertySet>(cells), "CellProtection")

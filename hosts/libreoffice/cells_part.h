@@ -2,9 +2,7 @@
 // conditional formats.
 #pragma once
 
-#include <optional>
-
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -15,10 +13,13 @@ struct CellBlock {
   Area area;
 };
 
-class CellsPart : public HostObject {
+template <class Face = objects::HostObject>
+class CellsPart : public OfficeObject<Face> {
  protected:
-  CellsPart(SessionPointer session, CellBlock cells)
-      : HostObject(std::move(session)), cells_(std::move(cells)) {}
+  template <class... Arguments>
+  CellsPart(SessionPointer session, CellBlock cells, Arguments&&... arguments)
+      : OfficeObject<Face>(std::move(session), std::forward<Arguments>(arguments)...),
+        cells_(std::move(cells)) {}
 
   void RequireAlive() const override { RequireThere(*cells_.sheet); }
   const CellBlock& Cells() const noexcept { return cells_; }

@@ -81,7 +81,7 @@ std::unique_ptr<Enumerator> CommandBarControls::Walk() {
 // --- one of them ---------------------------------------------------------------------------------
 
 CommandBarControl::CommandBarControl(SessionPointer session, MenuEntryPointer entry)
-    : HostObject(std::move(session)), entry_(std::move(entry)) {}
+    : OfficeObject(std::move(session)), entry_(std::move(entry)) {}
 
 const MemberTable& CommandBarControl::Members() const {
   using C = CommandBarControl;

@@ -3,13 +3,13 @@
 #pragma once
 
 #include "hosts/libreoffice/cell_menu.h"
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class CommandBars final : public HostObject {
+class CommandBars final : public OfficeObject<> {
  public:
-  explicit CommandBars(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit CommandBars(SessionPointer session) : OfficeObject(std::move(session)) {}
   const MemberTable& Members() const override;
   /// Raises 9 for anything but 1 and "Cell".
   Variant GetItem(const Variant& index) const;
@@ -22,9 +22,9 @@ class CommandBars final : public HostObject {
 };
 
 /// The bar "Cell".
-class CommandBar final : public HostObject {
+class CommandBar final : public OfficeObject<> {
  public:
-  explicit CommandBar(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit CommandBar(SessionPointer session) : OfficeObject(std::move(session)) {}
   const MemberTable& Members() const override;
 
  private:
@@ -32,9 +32,9 @@ class CommandBar final : public HostObject {
   Variant GetControls(const Variant& index) const;
 };
 
-class CommandBarControls final : public HostObject {
+class CommandBarControls final : public OfficeObject<> {
  public:
-  explicit CommandBarControls(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit CommandBarControls(SessionPointer session) : OfficeObject(std::move(session)) {}
   const MemberTable& Members() const override;
   /// The control at a position or of a caption. Raises 9 when there is none.
   Variant GetItem(const Variant& index) const;
@@ -47,7 +47,7 @@ class CommandBarControls final : public HostObject {
 };
 
 /// Event: Click, with the control, when a person's choice is told (Office::TellMenuChoices).
-class CommandBarControl final : public HostObject {
+class CommandBarControl final : public OfficeObject<> {
  public:
   CommandBarControl(SessionPointer session, MenuEntryPointer entry);
   const MemberTable& Members() const override;

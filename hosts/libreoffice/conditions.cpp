@@ -26,9 +26,7 @@ using Entries = Reference<XSheetConditionalEntries>;
 
 constexpr const char* kConditions = "ConditionalFormat";
 
-std::string Place(const CellBlock& cells) {
-  return QuotedSheetName(cells.sheet->Name()) + "!" + AddressOf(cells.area);
-}
+std::string Place(const CellBlock& cells) { return PlaceOf(cells.sheet->Name(), cells.area); }
 
 std::vector<Area> AreasOf(const Reference<XConditionalFormat>& format) {
   const auto ranges =

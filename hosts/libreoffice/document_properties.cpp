@@ -7,7 +7,7 @@
 namespace rangewerks::hosts::libreoffice {
 
 DocumentProperties::DocumentProperties(SessionPointer session, BookPointer book)
-    : HostObject(std::move(session)), book_(std::move(book)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)) {}
 
 const MemberTable& DocumentProperties::Members() const {
   static const MemberTable table =
@@ -76,7 +76,7 @@ Variant DocumentProperties::GetParent() const { return Workbook::Of(Office(), bo
 Variant DocumentProperties::GetApplication() const { return Application::Of(Office()); }
 
 DocumentProperty::DocumentProperty(SessionPointer session, BookPointer book, std::string name)
-    : HostObject(std::move(session)), book_(std::move(book)), name_(std::move(name)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)), name_(std::move(name)) {}
 
 const MemberTable& DocumentProperty::Members() const {
   static const MemberTable table =

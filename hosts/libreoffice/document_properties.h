@@ -2,12 +2,12 @@
 // is.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 #include "hosts/libreoffice/user_properties.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class DocumentProperties final : public HostObject {
+class DocumentProperties final : public OfficeObject<> {
  public:
   DocumentProperties(SessionPointer session, BookPointer book);
   const MemberTable& Members() const override;
@@ -28,7 +28,7 @@ class DocumentProperties final : public HostObject {
 };
 
 /// One property. It is known by its name, so each call asks the office for it.
-class DocumentProperty final : public HostObject {
+class DocumentProperty final : public OfficeObject<> {
  public:
   DocumentProperty(SessionPointer session, BookPointer book, std::string name);
   const MemberTable& Members() const override;

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-class Font final : public CellsPart {
+class Font final : public CellsPart<> {
  public:
   Font(SessionPointer session, CellBlock cells) : CellsPart(std::move(session), std::move(cells)) {}
   const MemberTable& Members() const override;

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-class FormatConditions final : public CellsPart {
+class FormatConditions final : public CellsPart<> {
  public:
   FormatConditions(SessionPointer session, CellBlock cells)
       : CellsPart(std::move(session), std::move(cells)) {}
@@ -18,7 +18,7 @@ class FormatConditions final : public CellsPart {
   void Delete();
 };
 
-class FormatCondition final : public CellsPart {
+class FormatCondition final : public CellsPart<> {
  public:
   FormatCondition(SessionPointer session, const FoundCondition& condition)
       : CellsPart(std::move(session), condition.Cells()), condition_(condition) {}

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-class Interior : public CellsPart {
+class Interior : public CellsPart<> {
  public:
   const MemberTable& Members() const override;
 

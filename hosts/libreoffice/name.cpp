@@ -11,7 +11,7 @@
 namespace rangewerks::hosts::libreoffice {
 
 Name::Name(SessionPointer session, BookPointer book, DefinedName name)
-    : HostObject(std::move(session)), book_(std::move(book)), name_(std::move(name)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)), name_(std::move(name)) {}
 
 const MemberTable& Name::Members() const {
   static const MemberTable table =

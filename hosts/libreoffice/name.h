@@ -2,11 +2,11 @@
 #pragma once
 
 #include "hosts/libreoffice/defined_names.h"
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Name final : public HostObject {
+class Name final : public OfficeObject<> {
  public:
   Name(SessionPointer session, BookPointer book, DefinedName name);
   const MemberTable& Members() const override;

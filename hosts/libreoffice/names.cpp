@@ -52,7 +52,7 @@ std::string ContentArgument(Book& book, const Variant& given) {
 }
 
 Names::Names(SessionPointer session, BookPointer book, SheetPointer sheet)
-    : HostObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
 
 const MemberTable& Names::Members() const {
   static const MemberTable table =

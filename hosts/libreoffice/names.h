@@ -2,11 +2,11 @@
 #pragma once
 
 #include "hosts/libreoffice/defined_names.h"
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Names final : public HostObject {
+class Names final : public OfficeObject<> {
  public:
   /// With no sheet all names of the workbook, those of its sheets among them.
   Names(SessionPointer session, BookPointer book, SheetPointer sheet);

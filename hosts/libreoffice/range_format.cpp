@@ -1,4 +1,6 @@
 // What the cells of a Range look like, and what may be entered into them.
+#include <algorithm>
+#include <array>
 #include <cmath>
 #include <com/sun/star/container/XIndexAccess.hpp>
 #include <com/sun/star/table/CellHoriJustify.hpp>
@@ -46,7 +48,6 @@ constexpr std::array<Alignment, 4> kAlignments{
 constexpr double kDigit = 5.56 / 72 * 2540;  // in 1/100 mm
 constexpr double kDigitPixels = 7;
 constexpr double kEdgePixels = 5;
-constexpr double kWidestColumn = 255;
 
 std::int32_t WidthOf(double characters) {
   const double pixels = characters < 1 ? characters * (kDigitPixels + kEdgePixels)
@@ -86,9 +87,9 @@ Variant Range::GetNumberFormat() const {
   return first;
 }
 
-void Range::LetNumberFormat(const Variant& format) {
+void Range::LetNumberFormat(const std::string& format) {
   RequireWritable(*sheet_, area_);
-  PutFormatKey(sheet_->Block(area_), book_->NumberFormats().KeyOf(TextArgument(format)));
+  PutFormatKey(sheet_->Block(area_), book_->NumberFormats().KeyOf(format));
 }
 
 Variant Range::GetHorizontalAlignment() const {
@@ -100,13 +101,9 @@ Variant Range::GetHorizontalAlignment() const {
   Fail(Place() + " has an alignment that the object model here has no number for");
 }
 
-void Range::LetHorizontalAlignment(const Variant& alignment) {
-  for (const Alignment& each : kAlignments) {
-    if (each.number == LongArgument(alignment)) {
-      return PutProperty(*sheet_, area_, kAlignment, Any(each.office));
-    }
-  }
-  Fail("Cells can't have the alignment " + std::to_string(LongArgument(alignment)));
+void Range::PutHorizontalAlignment(std::int32_t alignment) {
+  const auto* const known = std::ranges::find(kAlignments, alignment, &Alignment::number);
+  PutProperty(*sheet_, area_, kAlignment, Any(known->office));
 }
 
 Variant Range::GetWrapText() const {
@@ -136,22 +133,15 @@ Variant Range::GetColumnWidth() const {
   return *common;
 }
 
-void Range::LetColumnWidth(const Variant& characters) {
-  const double width = ToDouble(characters, automation::Locale::Current());
-  if (width < 0 || width > kWidestColumn) {
-    Fail("A column can't be " + TextArgument(characters) + " characters wide, only 0 to 255");
-  }
+void Range::PutColumnWidth(double characters) {
   RequireWritable(*sheet_, {1, area_.column, kSheetRows, area_.columns});
   const auto columns = ColumnsOf(*sheet_, area_);
   // The office has no columns without a width, only hidden ones.
-  if (width > 0) columns->setPropertyValue(ToUno(kWidth), Any(WidthOf(width)));
-  columns->setPropertyValue(ToUno(kVisible), Any(width > 0));
+  if (characters > 0) columns->setPropertyValue(ToUno(kWidth), Any(WidthOf(characters)));
+  columns->setPropertyValue(ToUno(kVisible), Any(characters > 0));
 }
 
-void Range::AutoFit() {
-  if (area_.rows != kSheetRows) {
-    Fail(Place() + " can't be fitted: only whole columns can");
-  }
+void Range::FitColumns() {
   RequireWritable(*sheet_, area_);
   ColumnsOf(*sheet_, area_)->setPropertyValue(ToUno("OptimalWidth"), Any(true));
 }
@@ -162,7 +152,5 @@ Variant Range::GetValidation() const { return std::make_shared<Validation>(Offic
 Variant Range::GetFormatConditions(const Variant& index) const {
   return libreoffice::Element<FormatConditions>(index, Office(), Block());
 }
-
-CellBlock Range::Block() const { return {book_, sheet_, area_}; }
 
 }  // namespace rangewerks::hosts::libreoffice

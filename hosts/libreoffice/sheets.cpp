@@ -6,7 +6,7 @@
 namespace rangewerks::hosts::libreoffice {
 
 Sheets::Sheets(SessionPointer session, BookPointer book)
-    : HostObject(std::move(session)), book_(std::move(book)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)) {}
 
 const MemberTable& Sheets::Members() const {
   static const MemberTable table =

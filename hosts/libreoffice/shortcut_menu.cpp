@@ -70,7 +70,7 @@ std::unique_ptr<Enumerator> MenuItems::Walk() {
 // --- one of them ---------------------------------------------------------------------------------
 
 MenuItem::MenuItem(SessionPointer session, MenuEntryPointer entry)
-    : HostObject(std::move(session)), entry_(std::move(entry)) {}
+    : OfficeObject(std::move(session)), entry_(std::move(entry)) {}
 
 const MemberTable& MenuItem::Members() const {
   static const MemberTable table =

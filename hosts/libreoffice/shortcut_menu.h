@@ -5,9 +5,9 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-class Menu final : public HostObject {
+class Menu final : public OfficeObject<> {
  public:
-  explicit Menu(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit Menu(SessionPointer session) : OfficeObject(std::move(session)) {}
   /// Raises 9 for another number than that of the cells.
   static Variant Of(const SessionPointer& session, std::int32_t index);
   const MemberTable& Members() const override;
@@ -16,9 +16,9 @@ class Menu final : public HostObject {
   Variant GetMenuItems(const Variant& index) const;
 };
 
-class MenuItems final : public HostObject {
+class MenuItems final : public OfficeObject<> {
  public:
-  explicit MenuItems(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit MenuItems(SessionPointer session) : OfficeObject(std::move(session)) {}
   const MemberTable& Members() const override;
   /// The item at a position or of a caption. Raises 9 when there is none.
   Variant GetItem(const Variant& index) const;
@@ -33,7 +33,7 @@ class MenuItems final : public HostObject {
               const Variant& helpFile, const Variant& helpContext);
 };
 
-class MenuItem final : public HostObject {
+class MenuItem final : public OfficeObject<> {
  public:
   MenuItem(SessionPointer session, MenuEntryPointer entry);
   const MemberTable& Members() const override;

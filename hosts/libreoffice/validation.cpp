@@ -228,9 +228,7 @@ css::table::CellAddress Validation::FirstCell() const {
   return {OnSheet().Index(), InArea().column - 1, InArea().row - 1};
 }
 
-std::string Validation::Place() const {
-  return QuotedSheetName(OnSheet().Name()) + "!" + AddressOf(InArea());
-}
+std::string Validation::Place() const { return PlaceOf(OnSheet().Name(), InArea()); }
 
 // --- its parts -----------------------------------------------------------------------------------
 

@@ -9,7 +9,7 @@
 namespace rangewerks::hosts::libreoffice {
 
 /// Every call reads the rule from the cells, and writes a changed one back to all of them.
-class Validation final : public CellsPart {
+class Validation final : public CellsPart<> {
  public:
   Validation(SessionPointer session, CellBlock cells)
       : CellsPart(std::move(session), std::move(cells)) {}

@@ -1,16 +1,16 @@
 // The late-bound VBProject, VBComponents and VBComponent: what Workbook.VBProject is.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
 #include "hosts/libreoffice/macro_project.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
 /// What the objects of a workbook's macros share: they are refused once it has been closed.
-class MacroObject : public HostObject {
+class MacroObject : public OfficeObject<> {
  protected:
   MacroObject(SessionPointer session, BookPointer book)
-      : HostObject(std::move(session)), book_(std::move(book)) {}
+      : OfficeObject(std::move(session)), book_(std::move(book)) {}
   void RequireAlive() const override { RequireOpen(*book_); }
   const BookPointer& InBook() const noexcept { return book_; }
   /// As the office has it now: nothing of it is kept between calls.

@@ -11,7 +11,7 @@
 namespace rangewerks::hosts::libreoffice {
 
 Workbook::Workbook(SessionPointer session, BookPointer book)
-    : HostObject(std::move(session)), book_(std::move(book)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)) {}
 
 std::shared_ptr<Workbook> Workbook::Of(const SessionPointer& session, const BookPointer& book) {
   return FaceOf<Workbook>(book->face, [&] { return std::make_shared<Workbook>(session, book); });

@@ -1,8 +1,8 @@
 // The late-bound Workbook, and the collections Workbooks and Sheets.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
 #include "hosts/libreoffice/names.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -13,7 +13,7 @@ Variant Element(const Variant& index, Arguments&&... arguments) {
   return index.IsMissing() ? Variant(all) : all->GetItem(index);
 }
 
-class Workbook final : public HostObject {
+class Workbook final : public OfficeObject<> {
  public:
   Workbook(SessionPointer session, BookPointer book);
   static std::shared_ptr<Workbook> Of(const SessionPointer& session, const BookPointer& book);
@@ -40,7 +40,7 @@ class Workbook final : public HostObject {
   BookPointer book_;
 };
 
-class Sheets final : public HostObject {
+class Sheets final : public OfficeObject<> {
  public:
   Sheets(SessionPointer session, BookPointer book);
   const MemberTable& Members() const override;
@@ -59,9 +59,9 @@ class Sheets final : public HostObject {
 };
 
 /// The workbooks that were opened or made through this library.
-class Workbooks final : public HostObject {
+class Workbooks final : public OfficeObject<> {
  public:
-  explicit Workbooks(SessionPointer session) : HostObject(std::move(session)) {}
+  explicit Workbooks(SessionPointer session) : OfficeObject(std::move(session)) {}
   const MemberTable& Members() const override;
   Variant GetItem(const Variant& index) const;
 

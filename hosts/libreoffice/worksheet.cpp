@@ -11,18 +11,12 @@
 namespace rangewerks::hosts::libreoffice {
 namespace {
 
-using automation::CallKind;
-using automation::Member;
-
-const Member kRange{"Range"};
-const Member kCells{"Cells"};
-
 constexpr Area kWholeSheet{1, 1, kSheetRows, kSheetColumns};
 
 }  // namespace
 
 Worksheet::Worksheet(SessionPointer session, BookPointer book, SheetPointer sheet)
-    : HostObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
+    : OfficeObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
 
 std::shared_ptr<Worksheet> Worksheet::Of(const SessionPointer& session, const BookPointer& book,
                                          const SheetPointer& sheet) {
@@ -50,12 +44,11 @@ const MemberTable& Worksheet::Members() const {
 }
 
 Variant Worksheet::Carry(const Invocation& call) {
-  const bool writes = call.kind == CallKind::Let && call.positional.size() > 1;
-  if (writes && (call.member == kRange || call.member == kCells)) {
-    LetValueOf(Carry(AsRead(call)), call.positional.back().Value());
+  if (objects::WritesToCells(call)) {
+    objects::LetValueOf(Carry(objects::AsRead(call)), call.positional.back().Value());
     return {};
   }
-  return HostObject::Carry(call);
+  return OfficeObject::Carry(call);
 }
 
 Variant Worksheet::GetName() const { return sheet_->Name(); }

@@ -1,11 +1,11 @@
 // The late-bound Worksheet.
 #pragma once
 
-#include "hosts/libreoffice/host_object.h"
+#include "hosts/libreoffice/office_object.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Worksheet final : public HostObject {
+class Worksheet final : public OfficeObject<> {
  public:
   Worksheet(SessionPointer session, BookPointer book, SheetPointer sheet);
   static std::shared_ptr<Worksheet> Of(const SessionPointer& session, const BookPointer& book,

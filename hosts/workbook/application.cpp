@@ -15,7 +15,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kType{"Application"};
 const automation::Member kTesting{"Testing"};
 
 std::shared_ptr<Range> RangeArgument(const Variant& value) {
@@ -26,7 +25,7 @@ std::shared_ptr<Range> RangeArgument(const Variant& value) {
 
 }  // namespace
 
-Application::Application(SessionPointer session) : ModelObject(std::move(session), kType) {}
+Application::Application(SessionPointer session) : ModelObject(std::move(session)) {}
 
 std::shared_ptr<Application> Application::Of(const SessionPointer& session) {
   return FaceOf<Application>(session->face, [&] { return std::make_shared<Application>(session); });
@@ -65,13 +64,13 @@ const MemberTable& Application::Members() const {
   return table;
 }
 
-Variant Application::Invoke(const Invocation& call) {
-  return call.member == kTesting ? Carry(call) : ModelObject::Invoke(call);
+void Application::Note(const Invocation& call) {
+  if (call.member != kTesting) ModelObject::Note(call);
 }
 
 Variant Application::Carry(const Invocation& call) {
-  if (WritesToCells(call)) {
-    LetValueOf(Carry(AsRead(call)), call.positional.back().Value());
+  if (objects::WritesToCells(call)) {
+    objects::LetValueOf(Carry(objects::AsRead(call)), call.positional.back().Value());
     return {};
   }
   return ModelObject::Carry(call);

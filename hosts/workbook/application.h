@@ -5,17 +5,17 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Application final : public ModelObject {
+class Application final : public ModelObject<> {
  public:
   explicit Application(SessionPointer session);
   /// The one object of that session.
   static std::shared_ptr<Application> Of(const SessionPointer& session);
 
   const MemberTable& Members() const override;
-  /// Passes Testing by the call log: to look at it must not change it.
-  Variant Invoke(const Invocation& call) override;
 
  protected:
+  /// Passes Testing by the call log: to look at it must not change it.
+  void Note(const Invocation& call) override;
   Variant Carry(const Invocation& call) override;
 
  private:

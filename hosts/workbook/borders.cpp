@@ -6,9 +6,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kBorders{"Borders"};
-const automation::Member kBorder{"Border"};
-
 constexpr std::int32_t kMedium = -4138;
 
 std::int32_t StyleOf(Line line) {
@@ -51,7 +48,7 @@ Line LineOfWeight(std::int32_t weight) {
 }  // namespace
 
 Borders::Borders(SessionPointer session, SheetPointer sheet, Area area)
-    : CellsObject(std::move(session), kBorders, std::move(sheet), area) {}
+    : CellsObject(std::move(session), std::move(sheet), area) {}
 
 const MemberTable& Borders::Members() const {
   static const MemberTable table = MemberTable::For<Borders>("Borders").Get(
@@ -64,7 +61,7 @@ Variant Borders::GetItem(std::int32_t index) const {
 }
 
 Border::Border(SessionPointer session, SheetPointer sheet, Area area, std::int32_t index)
-    : CellsObject(std::move(session), kBorder, std::move(sheet), area), index_(index) {
+    : CellsObject(std::move(session), std::move(sheet), area), index_(index) {
   LinesOf(area_, index_);  // refuses what is no index
 }
 

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Borders final : public CellsObject {
+class Borders final : public CellsObject<> {
  public:
   Borders(SessionPointer session, SheetPointer sheet, Area area);
   const MemberTable& Members() const override;
@@ -13,7 +13,7 @@ class Borders final : public CellsObject {
 };
 
 /// One edge, or the lines inside in one direction.
-class Border final : public CellsObject {
+class Border final : public CellsObject<> {
  public:
   Border(SessionPointer session, SheetPointer sheet, Area area, std::int32_t index);
   const MemberTable& Members() const override;

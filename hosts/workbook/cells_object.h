@@ -1,26 +1,27 @@
-// The base of the late-bound objects that stand for cells or for one thing about them.
+// The base of the late-bound objects that stand for one thing about the cells of a range.
 #pragma once
 
 #include <optional>
 #include <string>
 
+#include "hosts/common/name_rules.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class CellsObject : public ModelObject {
- public:
-  const SheetPointer& OnSheet() const noexcept { return sheet_; }
-  const Area& Cells() const noexcept { return area_; }
-
+template <class Face = objects::HostObject>
+class CellsObject : public ModelObject<Face> {
  protected:
-  CellsObject(SessionPointer session, automation::Member type, SheetPointer sheet, Area area)
-      : ModelObject(std::move(session), type), sheet_(std::move(sheet)), area_(area) {}
+  template <class... Arguments>
+  CellsObject(SessionPointer session, SheetPointer sheet, Area area, Arguments&&... arguments)
+      : ModelObject<Face>(std::move(session), std::forward<Arguments>(arguments)...),
+        sheet_(std::move(sheet)),
+        area_(area) {}
 
   /// Raises 1004 when the sheet has been deleted.
-  void RequireAlive() const override;
+  void RequireAlive() const override { RequireSheetOfRange(*sheet_); }
   /// The cells with their sheet, for messages: "'Data Sheet'!$C$3".
-  std::string Place() const;
+  std::string Place() const { return PlaceOf(sheet_->name, area_); }
 
   SheetPointer sheet_;
   Area area_;

@@ -3,14 +3,8 @@
 #include "hosts/workbook/failure.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"CodeModule"};
-
-}  // namespace
-
 CodeModule::CodeModule(SessionPointer session, MacroModulePointer module)
-    : ModelObject(std::move(session), kType), module_(std::move(module)) {}
+    : ModelObject(std::move(session)), module_(std::move(module)) {}
 
 const MemberTable& CodeModule::Members() const {
   static const MemberTable table =

@@ -6,7 +6,7 @@
 namespace rangewerks::hosts::workbook {
 
 /// Lines that aren't there are refused with error 9, a procedure that isn't with 35.
-class CodeModule final : public ModelObject {
+class CodeModule final : public ModelObject<> {
  public:
   CodeModule(SessionPointer session, MacroModulePointer module);
   const MemberTable& Members() const override;

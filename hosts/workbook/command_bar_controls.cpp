@@ -8,8 +8,6 @@ namespace {
 
 using automation::Argument;
 
-const automation::Member kControls{"CommandBarControls"};
-const automation::Member kControl{"CommandBarControl"};
 const automation::Member kClick{"Click"};
 
 constexpr std::int32_t kButton = 1;
@@ -19,7 +17,7 @@ constexpr std::int32_t kButton = 1;
 // --- all of a bar --------------------------------------------------------------------------------
 
 CommandBarControls::CommandBarControls(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session), kControls), bar_(std::move(bar)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
 
 const MemberTable& CommandBarControls::Members() const {
   static const MemberTable table =
@@ -65,7 +63,7 @@ std::unique_ptr<Enumerator> CommandBarControls::Walk() {
 
 CommandBarControl::CommandBarControl(SessionPointer session, MenuBarPointer bar,
                                      MenuEntryPointer entry)
-    : ModelObject(std::move(session), kControl), bar_(std::move(bar)), entry_(std::move(entry)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)), entry_(std::move(entry)) {}
 
 const MemberTable& CommandBarControl::Members() const {
   using C = CommandBarControl;

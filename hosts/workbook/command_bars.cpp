@@ -6,16 +6,9 @@
 #include "hosts/workbook/failure.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kBars{"CommandBars"};
-const automation::Member kBar{"CommandBar"};
-
-}  // namespace
-
 // --- all bars ------------------------------------------------------------------------------------
 
-CommandBars::CommandBars(SessionPointer session) : ModelObject(std::move(session), kBars) {}
+CommandBars::CommandBars(SessionPointer session) : ModelObject(std::move(session)) {}
 
 const MemberTable& CommandBars::Members() const {
   static const MemberTable table =
@@ -56,7 +49,7 @@ std::unique_ptr<Enumerator> CommandBars::Walk() {
 // --- one of them ---------------------------------------------------------------------------------
 
 CommandBar::CommandBar(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session), kBar), bar_(std::move(bar)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
 
 const MemberTable& CommandBar::Members() const {
   static const MemberTable table =

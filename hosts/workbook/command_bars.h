@@ -6,7 +6,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class CommandBars final : public ModelObject {
+class CommandBars final : public ModelObject<> {
  public:
   explicit CommandBars(SessionPointer session);
   const MemberTable& Members() const override;
@@ -20,7 +20,7 @@ class CommandBars final : public ModelObject {
   Variant GetCount() const;
 };
 
-class CommandBar final : public ModelObject {
+class CommandBar final : public ModelObject<> {
  public:
   CommandBar(SessionPointer session, MenuBarPointer bar);
   const MemberTable& Members() const override;
@@ -32,7 +32,7 @@ class CommandBar final : public ModelObject {
   MenuBarPointer bar_;
 };
 
-class CommandBarControls final : public ModelObject {
+class CommandBarControls final : public ModelObject<> {
  public:
   CommandBarControls(SessionPointer session, MenuBarPointer bar);
   const MemberTable& Members() const override;
@@ -51,7 +51,7 @@ class CommandBarControls final : public ModelObject {
 };
 
 /// Event: Click, with the control, when a person chooses it.
-class CommandBarControl final : public ModelObject {
+class CommandBarControl final : public ModelObject<> {
  public:
   CommandBarControl(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry);
   const MemberTable& Members() const override;

@@ -8,8 +8,6 @@ namespace {
 using automation::CallKind;
 using automation::Member;
 
-const Member kProperties{"DocumentProperties"};
-const Member kProperty{"DocumentProperty"};
 const Member kItem{"Item"};
 
 }  // namespace
@@ -17,7 +15,7 @@ const Member kItem{"Item"};
 // --- all of a workbook ---------------------------------------------------------------------------
 
 DocumentProperties::DocumentProperties(SessionPointer session, Book* book)
-    : ModelObject(std::move(session), kProperties), book_(book) {}
+    : ModelObject(std::move(session)), book_(book) {}
 
 const MemberTable& DocumentProperties::Members() const {
   using C = DocumentProperties;
@@ -91,7 +89,7 @@ std::unique_ptr<Enumerator> DocumentProperties::Walk() {
 
 DocumentProperty::DocumentProperty(SessionPointer session, Book* book,
                                    DocumentPropertyPointer property)
-    : ModelObject(std::move(session), kProperty), book_(book), property_(std::move(property)) {}
+    : ModelObject(std::move(session)), book_(book), property_(std::move(property)) {}
 
 const MemberTable& DocumentProperty::Members() const {
   using C = DocumentProperty;

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class DocumentProperties final : public ModelObject {
+class DocumentProperties final : public ModelObject<> {
  public:
   DocumentProperties(SessionPointer session, Book* book);
   const MemberTable& Members() const override;
@@ -28,7 +28,7 @@ class DocumentProperties final : public ModelObject {
   Book* book_;
 };
 
-class DocumentProperty final : public ModelObject {
+class DocumentProperty final : public ModelObject<> {
  public:
   DocumentProperty(SessionPointer session, Book* book, DocumentPropertyPointer property);
   const MemberTable& Members() const override;

@@ -1,14 +1,8 @@
 #include "hosts/workbook/font.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Font"};
-
-}  // namespace
-
 Font::Font(SessionPointer session, SheetPointer sheet, Area area)
-    : CellsObject(std::move(session), kType, std::move(sheet), area) {}
+    : CellsObject(std::move(session), std::move(sheet), area) {}
 
 const MemberTable& Font::Members() const {
   static const MemberTable table =

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Font final : public CellsObject {
+class Font final : public CellsObject<> {
  public:
   Font(SessionPointer session, SheetPointer sheet, Area area);
   const MemberTable& Members() const override;

@@ -6,17 +6,10 @@
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kConditions{"FormatConditions"};
-const automation::Member kCondition{"FormatCondition"};
-
-}  // namespace
-
 // --- all of a range ------------------------------------------------------------------------------
 
 FormatConditions::FormatConditions(SessionPointer session, SheetPointer sheet, Area area)
-    : CellsObject(std::move(session), kConditions, std::move(sheet), area) {}
+    : CellsObject(std::move(session), std::move(sheet), area) {}
 
 const MemberTable& FormatConditions::Members() const {
   static const MemberTable table =
@@ -76,8 +69,7 @@ std::unique_ptr<Enumerator> FormatConditions::Walk() {
 
 FormatCondition::FormatCondition(SessionPointer session, SheetPointer sheet, Area area,
                                  ConditionalFormatPointer format)
-    : CellsObject(std::move(session), kCondition, std::move(sheet), area),
-      format_(std::move(format)) {}
+    : CellsObject(std::move(session), std::move(sheet), area), format_(std::move(format)) {}
 
 const MemberTable& FormatCondition::Members() const {
   static const MemberTable table =

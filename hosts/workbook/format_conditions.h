@@ -9,7 +9,7 @@
 namespace rangewerks::hosts::workbook {
 
 /// The conditional formats that any of the cells has, in the order in which they were added.
-class FormatConditions final : public CellsObject {
+class FormatConditions final : public CellsObject<> {
  public:
   FormatConditions(SessionPointer session, SheetPointer sheet, Area area);
   const MemberTable& Members() const override;
@@ -25,7 +25,7 @@ class FormatConditions final : public CellsObject {
   Variant Face(const ConditionalFormatPointer& format) const;
 };
 
-class FormatCondition final : public CellsObject {
+class FormatCondition final : public CellsObject<> {
  public:
   FormatCondition(SessionPointer session, SheetPointer sheet, Area area,
                   ConditionalFormatPointer format);

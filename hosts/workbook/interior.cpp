@@ -7,8 +7,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kType{"Interior"};
-
 constexpr std::int32_t kAutomatic = -4105;
 
 bool MeansNoFill(std::int32_t index) {
@@ -18,7 +16,7 @@ bool MeansNoFill(std::int32_t index) {
 }  // namespace
 
 Interior::Interior(SessionPointer session, SheetPointer sheet, Area area)
-    : CellsObject(std::move(session), kType, std::move(sheet), area) {}
+    : CellsObject(std::move(session), std::move(sheet), area) {}
 
 const MemberTable& Interior::Members() const {
   static const MemberTable table =

@@ -8,7 +8,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Interior : public CellsObject {
+class Interior : public CellsObject<> {
  public:
   const MemberTable& Members() const final;
 

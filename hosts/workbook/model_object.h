@@ -2,8 +2,11 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <utility>
 
-#include "automation/member_table.h"
+#include "hosts/objects/host_object.h"
+#include "hosts/workbook/failure.h"
 #include "hosts/workbook/model.h"
 
 namespace rangewerks::hosts::workbook {
@@ -12,47 +15,33 @@ using automation::Enumerator;
 using automation::Invocation;
 using automation::MemberTable;
 using automation::Object;
+using objects::FaceOf;
+using objects::LongArgument;
+using objects::Optional;
+using objects::TextArgument;
 
-/// Passes every call through the call log before it is carried out, and refuses calls on what has
-/// been deleted. Keeps the whole model alive.
-class ModelObject : public automation::AutomationClass {
- public:
-  Variant Invoke(const Invocation& call) override;
-  std::unique_ptr<Enumerator> Enumerate() final;
-
+/// An object of that class of the object model, as this host has it: every call passes through the
+/// call log. Keeps the whole model alive.
+template <class Face = objects::HostObject>
+class ModelObject : public Face {
  protected:
-  ModelObject(SessionPointer session, automation::Member type)
-      : session_(std::move(session)), type_(type) {}
+  template <class... Arguments>
+  explicit ModelObject(SessionPointer session, Arguments&&... arguments)
+      : Face(std::forward<Arguments>(arguments)...), session_(std::move(session)) {}
 
-  /// The call itself: by the member table, unless overridden.
-  virtual Variant Carry(const Invocation& call) { return Members().Invoke(*this, call); }
-  /// The walk itself. Raises 451 unless overridden.
-  virtual std::unique_ptr<Enumerator> Walk();
-  /// Raises 1004 when what the object stands for has been deleted.
-  virtual void RequireAlive() const {}
+  void Note(const Invocation& call) override { session_->calls.Note(this->Members().Type(), call); }
+  void NoteWalk() final { session_->calls.NoteWalk(this->Members().Type()); }
+  const char* ErrorSource() const noexcept final { return kSource; }
 
   const SessionPointer& Shared() const noexcept { return session_; }
 
  private:
   SessionPointer session_;
-  automation::Member type_;
 };
 
-/// The object that stands for an entry of the model: the one that `face` still knows, or a new one
-/// made by `make()`.
-template <class T, class Make>
-std::shared_ptr<T> FaceOf(std::weak_ptr<automation::Dispatch>& face, Make make) {
-  if (const auto known = face.lock()) return std::static_pointer_cast<T>(known);
-  std::shared_ptr<T> made = make();
-  face = made;
-  return made;
+/// Raises 1004 when the sheet that cells are on has been deleted.
+inline void RequireSheetOfRange(const Sheet& sheet) {
+  if (sheet.deleted) Refuse("The sheet of this range has been deleted");
 }
-
-/// An optional argument's value in a member table.
-inline automation::Parameter Optional(std::string_view name) { return {name, Variant::Missing()}; }
-
-/// A text or a number given as an argument, converted as every automation call converts it.
-std::string TextArgument(const Variant& value);
-std::int32_t LongArgument(const Variant& value);
 
 }  // namespace rangewerks::hosts::workbook

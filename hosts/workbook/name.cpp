@@ -10,8 +10,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kType{"Name"};
-
 void RequireGoodName(const std::string& name) {
   if (const std::string fault = FaultOfName(name); !fault.empty()) {
     Refuse("\"" + name + "\" can't be a name: " + fault);
@@ -46,7 +44,7 @@ NamePointer DefineName(Book& book, const std::string& given, SheetPointer scope,
 }
 
 Name::Name(SessionPointer session, Book* book, NamePointer name)
-    : ModelObject(std::move(session), kType), book_(book), name_(std::move(name)) {}
+    : ModelObject(std::move(session)), book_(book), name_(std::move(name)) {}
 
 const MemberTable& Name::Members() const {
   static const MemberTable table =

@@ -14,7 +14,7 @@ NamePointer DefineName(Book& book, const std::string& given, SheetPointer scope,
 /// 1004 for any other object and for cells of another workbook.
 NameContent ContentOf(const Book& book, const Variant& given);
 
-class Name final : public ModelObject {
+class Name final : public ModelObject<> {
  public:
   Name(SessionPointer session, Book* book, NamePointer name);
 

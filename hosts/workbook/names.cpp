@@ -10,8 +10,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kType{"Names"};
-
 /// Walks the names that there were at the start, without those that have been deleted since.
 class NamesWalk final : public Enumerator {
  public:
@@ -35,7 +33,7 @@ class NamesWalk final : public Enumerator {
 }  // namespace
 
 Names::Names(SessionPointer session, Book* book, SheetPointer sheet)
-    : ModelObject(std::move(session), kType), book_(book), sheet_(std::move(sheet)) {}
+    : ModelObject(std::move(session)), book_(book), sheet_(std::move(sheet)) {}
 
 const MemberTable& Names::Members() const {
   static const MemberTable table =

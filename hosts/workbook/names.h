@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Names final : public ModelObject {
+class Names final : public ModelObject<> {
  public:
   Names(SessionPointer session, Book* book, SheetPointer sheet = nullptr);
 

@@ -35,14 +35,7 @@ Variant Range::GetHorizontalAlignment() const {
   return ValueOrNull(sheet_->grid.Formats().Common(area_, &CellFormat::alignment));
 }
 
-void Range::LetHorizontalAlignment(std::int32_t alignment) {
-  const auto known = {std::int32_t{excel::xlGeneral}, std::int32_t{excel::xlLeft}, kCenter,
-                      std::int32_t{excel::xlRight}};
-  if (std::ranges::find(known, alignment) == known.end()) {
-    Refuse(
-        "HorizontalAlignment is 1 (general), -4131 (left), -4108 (center) or -4152 (right), not " +
-        std::to_string(alignment));
-  }
+void Range::PutHorizontalAlignment(std::int32_t alignment) {
   sheet_->grid.Formats().Change(area_,
                                 [alignment](CellFormat& format) { format.alignment = alignment; });
 }
@@ -62,17 +55,9 @@ Variant Range::GetColumnWidth() const {
       WidthsOf(area_), [](const ColumnWidth& width) { return width.value_or(kStandardWidth); }));
 }
 
-void Range::LetColumnWidth(double width) {
-  if (!(width >= 0 && width <= kLargestWidth)) {
-    Refuse("A column's width is 0 to 255 characters, not " + automation::ToString(width, {}));
-  }
-  sheet_->widths.Set(WidthsOf(area_), width);
-}
+void Range::PutColumnWidth(double characters) { sheet_->widths.Set(WidthsOf(area_), characters); }
 
-void Range::AutoFit() {
-  if (area_.rows != kSheetRows) {
-    Refuse("Only whole columns can be made as wide as what they show, not " + Place());
-  }
+void Range::FitColumns() {
   std::map<std::int32_t, std::size_t> longest;
   sheet_->grid.VisitStored(area_, [&](Position place, const Content& /*content*/) {
     const Cell cell = sheet_->grid.At(place);

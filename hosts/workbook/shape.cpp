@@ -5,14 +5,8 @@
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Rectangle"};
-
-}  // namespace
-
 Shape::Shape(SessionPointer session, SheetPointer sheet)
-    : ModelObject(std::move(session), kType), sheet_(std::move(sheet)) {}
+    : ModelObject(std::move(session)), sheet_(std::move(sheet)) {}
 
 const MemberTable& Shape::Members() const {
   static const MemberTable table =

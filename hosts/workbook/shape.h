@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Shape final : public ModelObject {
+class Shape final : public ModelObject<> {
  public:
   Shape(SessionPointer session, SheetPointer sheet);
 

@@ -8,14 +8,7 @@
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Sheets"};
-
-}  // namespace
-
-Sheets::Sheets(SessionPointer session, Book* book)
-    : ModelObject(std::move(session), kType), book_(book) {}
+Sheets::Sheets(SessionPointer session, Book* book) : ModelObject(std::move(session)), book_(book) {}
 
 const MemberTable& Sheets::Members() const {
   static const MemberTable table =

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Sheets final : public ModelObject {
+class Sheets final : public ModelObject<> {
  public:
   Sheets(SessionPointer session, Book* book);
 

@@ -4,23 +4,15 @@
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kMenu{"Menu"};
-const automation::Member kItems{"MenuItems"};
-const automation::Member kItem{"MenuItem"};
-
-}  // namespace
-
 // --- the menu ------------------------------------------------------------------------------------
 
 Menu::Menu(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session), kMenu), bar_(std::move(bar)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
 
 Variant Menu::Of(const SessionPointer& session, std::int32_t index) {
   if (index != excel::xlWorksheetCell) {
-    RefuseElement("There is no shortcut menu number " + std::to_string(index) +
-                  " here, only 3, that of the cells");
+    workbook::RefuseElement("There is no shortcut menu number " + std::to_string(index) +
+                            " here, only 3, that of the cells");
   }
   return std::make_shared<Menu>(session, session->menus.ofCells);
 }
@@ -39,7 +31,7 @@ Variant Menu::GetMenuItems(const Variant& index) const {
 // --- its items -----------------------------------------------------------------------------------
 
 MenuItems::MenuItems(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session), kItems), bar_(std::move(bar)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
 
 const MemberTable& MenuItems::Members() const {
   static const MemberTable table =
@@ -81,7 +73,7 @@ std::unique_ptr<Enumerator> MenuItems::Walk() {
 // --- one of them ---------------------------------------------------------------------------------
 
 MenuItem::MenuItem(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry)
-    : ModelObject(std::move(session), kItem), bar_(std::move(bar)), entry_(std::move(entry)) {}
+    : ModelObject(std::move(session)), bar_(std::move(bar)), entry_(std::move(entry)) {}
 
 const MemberTable& MenuItem::Members() const {
   static const MemberTable table =

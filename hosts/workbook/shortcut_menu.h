@@ -6,7 +6,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Menu final : public ModelObject {
+class Menu final : public ModelObject<> {
  public:
   Menu(SessionPointer session, MenuBarPointer bar);
   /// The shortcut menu of that number: 3, that of the cells. Raises 9 for all others.
@@ -19,7 +19,7 @@ class Menu final : public ModelObject {
   MenuBarPointer bar_;
 };
 
-class MenuItems final : public ModelObject {
+class MenuItems final : public ModelObject<> {
  public:
   MenuItems(SessionPointer session, MenuBarPointer bar);
   const MemberTable& Members() const override;
@@ -38,7 +38,7 @@ class MenuItems final : public ModelObject {
   MenuBarPointer bar_;
 };
 
-class MenuItem final : public ModelObject {
+class MenuItem final : public ModelObject<> {
  public:
   MenuItem(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry);
   const MemberTable& Members() const override;

@@ -4,14 +4,8 @@
 #include "hosts/workbook/failure.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Validation"};
-
-}  // namespace
-
 Validation::Validation(SessionPointer session, SheetPointer sheet, Area area)
-    : CellsObject(std::move(session), kType, std::move(sheet), area) {}
+    : CellsObject(std::move(session), std::move(sheet), area) {}
 
 const MemberTable& Validation::Members() const {
   using C = Validation;

@@ -6,7 +6,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Validation final : public CellsObject {
+class Validation final : public CellsObject<> {
  public:
   Validation(SessionPointer session, SheetPointer sheet, Area area);
   const MemberTable& Members() const override;

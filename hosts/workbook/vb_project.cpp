@@ -10,10 +10,6 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kProject{"VBProject"};
-const automation::Member kComponents{"VBComponents"};
-const automation::Member kComponent{"VBComponent"};
-
 MacroModulePointer FindModule(const Book& book, const std::string& name) {
   for (MacroModulePointer& module : book.Modules()) {
     if (automation::EqualText(module->name, name)) return std::move(module);
@@ -26,7 +22,7 @@ MacroModulePointer FindModule(const Book& book, const std::string& name) {
 // --- the project ---------------------------------------------------------------------------------
 
 VBProject::VBProject(SessionPointer session, Book* book)
-    : ModelObject(std::move(session), kProject), book_(book) {}
+    : ModelObject(std::move(session)), book_(book) {}
 
 const MemberTable& VBProject::Members() const {
   static const MemberTable table =
@@ -44,7 +40,7 @@ Variant VBProject::GetComponents(const Variant& index) const {
 // --- its modules ---------------------------------------------------------------------------------
 
 VBComponents::VBComponents(SessionPointer session, Book* book)
-    : ModelObject(std::move(session), kComponents), book_(book) {}
+    : ModelObject(std::move(session)), book_(book) {}
 
 const MemberTable& VBComponents::Members() const {
   static const MemberTable table =
@@ -117,7 +113,7 @@ std::unique_ptr<Enumerator> VBComponents::Walk() {
 // --- one of them ---------------------------------------------------------------------------------
 
 VBComponent::VBComponent(SessionPointer session, Book* book, MacroModulePointer module)
-    : ModelObject(std::move(session), kComponent), book_(book), module_(std::move(module)) {}
+    : ModelObject(std::move(session)), book_(book), module_(std::move(module)) {}
 
 const MemberTable& VBComponent::Members() const {
   static const MemberTable table =

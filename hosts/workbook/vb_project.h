@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class VBProject final : public ModelObject {
+class VBProject final : public ModelObject<> {
  public:
   VBProject(SessionPointer session, Book* book);
   const MemberTable& Members() const override;
@@ -17,7 +17,7 @@ class VBProject final : public ModelObject {
 };
 
 /// The modules in their order: the workbook's, those of the sheets, those added.
-class VBComponents final : public ModelObject {
+class VBComponents final : public ModelObject<> {
  public:
   VBComponents(SessionPointer session, Book* book);
   const MemberTable& Members() const override;
@@ -36,7 +36,7 @@ class VBComponents final : public ModelObject {
   Book* book_;
 };
 
-class VBComponent final : public ModelObject {
+class VBComponent final : public ModelObject<> {
  public:
   VBComponent(SessionPointer session, Book* book, MacroModulePointer module);
   const MemberTable& Members() const override;

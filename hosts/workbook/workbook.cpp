@@ -12,14 +12,8 @@
 #include "hosts/workbook/worksheet.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Workbook"};
-
-}  // namespace
-
 Workbook::Workbook(SessionPointer session, Book* book)
-    : ModelObject(std::move(session), kType), book_(book) {}
+    : ModelObject(std::move(session)), book_(book) {}
 
 std::shared_ptr<Workbook> Workbook::Of(const SessionPointer& session, Book* book) {
   return FaceOf<Workbook>(book->face, [&] { return std::make_shared<Workbook>(session, book); });

@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Workbook final : public ModelObject {
+class Workbook final : public ModelObject<> {
  public:
   Workbook(SessionPointer session, Book* book);
   /// The one object of that workbook.

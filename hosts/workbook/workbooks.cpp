@@ -6,13 +6,7 @@
 #include "hosts/workbook/workbook_file.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-const automation::Member kType{"Workbooks"};
-
-}  // namespace
-
-Workbooks::Workbooks(SessionPointer session) : ModelObject(std::move(session), kType) {}
+Workbooks::Workbooks(SessionPointer session) : ModelObject(std::move(session)) {}
 
 const MemberTable& Workbooks::Members() const {
   static const MemberTable table =

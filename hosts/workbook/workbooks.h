@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Workbooks final : public ModelObject {
+class Workbooks final : public ModelObject<> {
  public:
   explicit Workbooks(SessionPointer session);
 

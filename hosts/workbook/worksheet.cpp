@@ -12,14 +12,12 @@
 namespace rangewerks::hosts::workbook {
 namespace {
 
-const automation::Member kType{"Worksheet"};
-
 constexpr Area kWholeSheet{1, 1, kSheetRows, kSheetColumns};
 
 }  // namespace
 
 Worksheet::Worksheet(SessionPointer session, SheetPointer sheet)
-    : ModelObject(std::move(session), kType), sheet_(std::move(sheet)) {}
+    : ModelObject(std::move(session)), sheet_(std::move(sheet)) {}
 
 std::shared_ptr<Worksheet> Worksheet::Of(const SessionPointer& session, const SheetPointer& sheet) {
   return FaceOf<Worksheet>(sheet->face,
@@ -50,8 +48,8 @@ void Worksheet::RequireAlive() const {
 }
 
 Variant Worksheet::Carry(const Invocation& call) {
-  if (WritesToCells(call)) {
-    LetValueOf(Carry(AsRead(call)), call.positional.back().Value());
+  if (objects::WritesToCells(call)) {
+    objects::LetValueOf(Carry(objects::AsRead(call)), call.positional.back().Value());
     return {};
   }
   return ModelObject::Carry(call);

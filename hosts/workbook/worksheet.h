@@ -5,7 +5,7 @@
 
 namespace rangewerks::hosts::workbook {
 
-class Worksheet final : public ModelObject {
+class Worksheet final : public ModelObject<> {
  public:
   Worksheet(SessionPointer session, SheetPointer sheet);
   /// The one object of that sheet.

@@ -84,8 +84,13 @@ class MemberTable {
   /// Starts the table of a class whose objects report that name.
   template <class Class>
   static Builder<Class> For(std::string_view className);
+  /// Starts the table of a class that has the members of its base class and others besides.
+  template <class Class>
+  static Builder<Class> Extending(const MemberTable& base);
 
   const std::string& ClassName() const noexcept { return className_; }
+  /// The class name, to be compared with others at the cost of a number.
+  Member Type() const noexcept { return type_; }
   const std::vector<MemberInfo>& Entries() const noexcept { return entries_; }
 
   /// Finds the member and carries the call out on `self`: named arguments are placed, left out ones
@@ -99,11 +104,12 @@ class MemberTable {
   const MemberInfo* TryFind(Member member, CallKind kind) const;
 
  private:
-  explicit MemberTable(std::string_view className) : className_(className) {}
+  explicit MemberTable(std::string_view className) : className_(className), type_(className) {}
   void Append(MemberInfo entry);
   const MemberInfo& Find(const Invocation& call) const;
 
   std::string className_;
+  Member type_;
   std::vector<MemberInfo> entries_;
   /// Index + 1 into the entries by role; a method and a read answer for each other.
   std::unordered_map<Member, std::array<std::size_t, 4>> byName_;
@@ -308,6 +314,7 @@ template <class Class>
 class MemberTable::Builder {
  public:
   explicit Builder(std::string_view className) : table_(className) {}
+  explicit Builder(const MemberTable& base) : table_(base) {}
   operator MemberTable() && { return std::move(table_); }
 
   template <class M>
@@ -369,6 +376,11 @@ class MemberTable::Builder {
 template <class Class>
 MemberTable::Builder<Class> MemberTable::For(std::string_view className) {
   return Builder<Class>(className);
+}
+
+template <class Class>
+MemberTable::Builder<Class> MemberTable::Extending(const MemberTable& base) {
+  return Builder<Class>(base);
 }
 
 }  // namespace rangewerks::automation

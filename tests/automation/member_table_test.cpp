@@ -24,7 +24,7 @@ using automation::Variant;
 using ::testing::ElementsAre;
 
 /// A public class with a member of every kind.
-class Account final : public AutomationClass {
+class Account : public AutomationClass {
  public:
   const MemberTable& Members() const override {
     static const MemberTable table =
@@ -63,6 +63,19 @@ class Account final : public AutomationClass {
   std::string name_ = "cash";
   double balance_ = 0;
   Object owner_;
+};
+
+/// A public class with the members of another and one more.
+class DepositAccount final : public Account {
+ public:
+  const MemberTable& Members() const override {
+    static const MemberTable table =
+        MemberTable::Extending<DepositAccount>(Account::Members())
+            .Get(7, "Rate", &DepositAccount::get_Rate, "The interest.");
+    return table;
+  }
+
+  double get_Rate() const { return 1.5; }
 };
 
 const Member kName{"Name"};
@@ -203,6 +216,21 @@ TEST_F(MemberTables, TellTheirEntriesInDeclaredOrder) {
   EXPECT_TRUE(entries[1].arguments.empty());
   EXPECT_EQ(entries[8].result, TypeCode::Void);
   EXPECT_EQ(entries[6].help, "Books an amount.");
+}
+
+TEST_F(MemberTables, TellTheirClassAsANumberWhateverItsCase) {
+  EXPECT_EQ(account_->Members().Type(), Member("aCCOUNT"));
+}
+
+TEST_F(MemberTables, OfAClassWithABaseClassHaveTheMembersOfBoth) {
+  const auto deposit = std::make_shared<DepositAccount>();
+  const Object object = deposit;
+  object.Let(kName, "deposit");
+  EXPECT_EQ(object.Get(Member::Default()), Variant("deposit"));
+  EXPECT_EQ(object.Get(Member("Rate")), Variant(1.5));
+  EXPECT_EQ(deposit->Members().Entries().size(), account_->Members().Entries().size() + 1);
+  EXPECT_EQ(deposit->Members().Entries().back().id, 7);
+  ExpectRaises(ErrorNumber::MemberNotFound, [&] { object_.Get(Member("Rate")); });
 }
 
 TEST_F(MemberTables, TellTheirArguments) {

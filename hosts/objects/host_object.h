@@ -1,13 +1,12 @@
-// The base of the late-bound objects of this host.
+// The base of the late-bound objects of every host.
 #pragma once
 
 #include <memory>
 #include <string>
 
 #include "automation/member_table.h"
-#include "hosts/libreoffice/book.h"
 
-namespace rangewerks::hosts::libreoffice {
+namespace rangewerks::hosts::objects {
 
 using automation::Enumerator;
 using automation::Invocation;
@@ -15,16 +14,15 @@ using automation::MemberTable;
 using automation::Object;
 using automation::Variant;
 
-/// Carries calls out by the member table, refuses them on what has been closed or deleted, and
-/// turns the office's exceptions into errors that say which member of which object failed.
+/// Carries every call out by the member table, once its host has seen the call and what it is made
+/// on is still there. The classes of this folder declare the members; a host derives from each and
+/// does what is left to it.
 class HostObject : public automation::AutomationClass {
  public:
   Variant Invoke(const Invocation& call) final;
   std::unique_ptr<Enumerator> Enumerate() final;
 
  protected:
-  explicit HostObject(SessionPointer session) : session_(std::move(session)) {}
-
   /// The call itself: by the member table, unless overridden.
   virtual Variant Carry(const Invocation& call) { return Members().Invoke(*this, call); }
   /// The walk itself. Raises 451 unless overridden.
@@ -32,15 +30,22 @@ class HostObject : public automation::AutomationClass {
   /// Raises 1004 when what the object stands for is there no more.
   virtual void RequireAlive() const {}
 
-  const SessionPointer& Office() const noexcept { return session_; }
+  // --- what a host does with all calls -----------------------------------------------------------
 
- private:
-  SessionPointer session_;
+  /// Sees a call, or a walk, before anything else is done about it.
+  virtual void Note(const Invocation& /*call*/) {}
+  virtual void NoteWalk() {}
+  /// Called from a catch block: raises what a call, or without one a walk, has raised as the error
+  /// that it stands for. Does nothing about what is an error already.
+  virtual void RaiseAsError(const Invocation* /*call*/) const {}
+  /// The source of the errors that are raised here.
+  virtual const char* ErrorSource() const noexcept = 0;
+
+  /// Raises 1004 with those words: what was asked for and where, and what stands in its way.
+  [[noreturn]] void Refuse(const std::string& description) const;
+  /// Raises 9, for an element that a collection lacks.
+  [[noreturn]] void RefuseElement(const std::string& description) const;
 };
-
-/// Raises 1004 when the workbook has been closed, or the sheet deleted.
-void RequireOpen(const Book& book);
-void RequireThere(const Sheet& sheet);
 
 /// The object that stands for an entry of the model: the one that `face` still knows, or a new one
 /// made by `make()`.
@@ -59,4 +64,4 @@ inline automation::Parameter Optional(std::string_view name) { return {name, Var
 std::string TextArgument(const Variant& value);
 std::int32_t LongArgument(const Variant& value);
 
-}  // namespace rangewerks::hosts::libreoffice
+}  // namespace rangewerks::hosts::objects
