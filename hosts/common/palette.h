@@ -8,6 +8,7 @@ namespace rangewerks::hosts {
 
 /// Colours are 0xBBGGRR. An unfilled cell shows white.
 inline constexpr std::int32_t kWhite = 0xFFFFFF;
+inline constexpr std::int32_t kNoFill = -1;
 
 /// The colour of that number, 1 (black) to 56, or none.
 std::optional<std::int32_t> ColorOfIndex(std::int32_t index);

@@ -1,12 +1,21 @@
-// How long the texts of a validation rule may be, in characters. A workbook file can't hold more.
+// The texts of a validation rule, and how long each may be. A workbook file can't hold more.
 #pragma once
 
+#include <array>
 #include <cstddef>
+#include <string>
 
 namespace rangewerks::hosts {
 
-inline constexpr std::size_t kLongestValidationTitle = 32;
-inline constexpr std::size_t kLongestErrorMessage = 225;
-inline constexpr std::size_t kLongestInputMessage = 255;
+/// A text by its member's name, and the most characters that it can have.
+struct ValidationText {
+  const char* member;
+  std::size_t longest;
+};
+inline constexpr std::array<ValidationText, 4> kValidationTexts{
+    {{"ErrorTitle", 32}, {"ErrorMessage", 225}, {"InputTitle", 32}, {"InputMessage", 255}}};
+
+/// Why the text can't be that, as a sentence; empty when it can.
+std::string FaultOfText(const ValidationText& text, const std::string& value);
 
 }  // namespace rangewerks::hosts

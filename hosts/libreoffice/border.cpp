@@ -5,9 +5,9 @@
 #include <com/sun/star/table/BorderLineStyle.hpp>
 #include <com/sun/star/table/TableBorder2.hpp>
 
+#include "hosts/common/format_numbers.h"
 #include "hosts/common/name_rules.h"
 #include "hosts/libreoffice/cell_properties.h"
-#include "hosts/libreoffice/failure.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::libreoffice {
@@ -18,8 +18,6 @@ using css::table::TableBorder2;
 namespace styles = css::table::BorderLineStyle;
 
 constexpr const char* kTableBorder = "TableBorder2";
-constexpr std::int32_t kInsideVertical = 11;
-constexpr std::int32_t kMedium = -4138;
 
 /// Where the office keeps the lines of an index, and its word on whether they are the same all
 /// along.
@@ -52,10 +50,7 @@ constexpr std::array<Width, 4> kWidths{
     {{excel::xlHairline, 2}, {excel::xlThin, 26}, {kMedium, 62}, {excel::xlThick, 88}}};
 
 std::uint32_t WidthOf(std::int32_t weight) {
-  for (const Width& each : kWidths) {
-    if (each.weight == weight) return each.width;
-  }
-  Fail("There are no lines of the weight " + std::to_string(weight));
+  return std::ranges::find(kWidths, weight, &Width::weight)->width;
 }
 
 /// The heaviest weight that the width reaches.
@@ -84,19 +79,13 @@ BorderLine2 MakeLine(std::int16_t style, std::uint32_t width) {
 
 }  // namespace
 
-Border::Border(SessionPointer session, CellBlock cells, std::int32_t index)
-    : CellsPart(std::move(session), std::move(cells)), index_(index) {
-  if (FindEdge(index) == nullptr) Fail("Cells have no border number " + std::to_string(index));
+Variant Borders::GetItem(std::int32_t index) const {
+  return std::make_shared<Border>(Office(), Cells(), index);
 }
 
-const MemberTable& Border::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Border>("Border")
-          .Get(1, "LineStyle", &Border::GetLineStyle, "The kind of line; null when mixed.")
-          .Let(1, "LineStyle", &Border::LetLineStyle, "Draws a line of that kind, or none.")
-          .Get(2, "Weight", &Border::GetWeight, "How heavy the line is; null when mixed.")
-          .Let(2, "Weight", &Border::LetWeight, "Draws a line that heavy.");
-  return table;
+Border::Border(SessionPointer session, CellBlock cells, std::int32_t index)
+    : CellsPart(std::move(session), std::move(cells)), index_(index) {
+  if (FindEdge(index) == nullptr) Refuse("Cells have no border number " + std::to_string(index));
 }
 
 std::optional<BorderLine2> Border::Line() const {
@@ -111,7 +100,7 @@ void Border::Draw(const BorderLine2& line) {
   const bool isThere = (index_ != excel::xlInsideHorizontal || area.rows > 1) &&
                        (index_ != kInsideVertical || area.columns > 1);
   if (!isThere) {
-    Fail(PlaceOf(OnSheet().Name(), area) + " has no lines inside in that direction");
+    Refuse(PlaceOf(OnSheet().Name(), area) + " has no lines inside in that direction");
   }
   const Edge& edge = *FindEdge(index_);
   TableBorder2 lines;
@@ -129,19 +118,17 @@ Variant Border::GetLineStyle() const {
   return style;
 }
 
-void Border::LetLineStyle(const Variant& style) {
+void Border::PutLineStyle(std::int32_t style) {
   const auto line = Line();
-  switch (LongArgument(style)) {
+  switch (style) {
     case excel::xlLineStyleNone:
       return Draw(MakeLine(styles::NONE, 0));
-    case excel::xlContinuous: {
+    case excel::xlDouble:
+      return Draw(MakeLine(styles::DOUBLE_THIN, WidthOf(excel::xlThick)));
+    default: {
       const bool keepsWidth = line && IsDrawn(*line) && !IsDouble(*line);
       return Draw(MakeLine(styles::SOLID, keepsWidth ? line->LineWidth : WidthOf(excel::xlThin)));
     }
-    case excel::xlDouble:
-      return Draw(MakeLine(styles::DOUBLE_THIN, WidthOf(excel::xlThick)));
-    default:
-      Fail("Lines of the style " + std::to_string(LongArgument(style)) + " can't be drawn");
   }
 }
 
@@ -153,11 +140,10 @@ Variant Border::GetWeight() const {
   return WeightOf(line->LineWidth);
 }
 
-void Border::LetWeight(const Variant& weight) {
-  const std::uint32_t width = WidthOf(LongArgument(weight));
+void Border::PutWeight(std::int32_t weight) {
   const auto line = Line();
-  const bool isDouble = line && IsDouble(*line) && LongArgument(weight) == excel::xlThick;
-  Draw(MakeLine(isDouble ? styles::DOUBLE_THIN : styles::SOLID, width));
+  const bool isDouble = line && IsDouble(*line) && weight == excel::xlThick;
+  Draw(MakeLine(isDouble ? styles::DOUBLE_THIN : styles::SOLID, WidthOf(weight)));
 }
 
 }  // namespace rangewerks::hosts::libreoffice

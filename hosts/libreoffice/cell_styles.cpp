@@ -7,6 +7,8 @@
 #include <com/sun/star/style/XStyleFamiliesSupplier.hpp>
 #include <cstdio>
 
+#include "hosts/common/palette.h"
+
 namespace rangewerks::hosts::libreoffice {
 namespace {
 

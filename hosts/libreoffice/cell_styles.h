@@ -10,10 +10,8 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-/// The office's colour for no fill; others are 0xRRGGBB.
-inline constexpr std::int32_t kNoFill = -1;
-
-/// Styles are known by their names. An empty name is the look of a condition that changes nothing.
+/// Fills are 0xRRGGBB, or kNoFill. Styles are known by their names. An empty name is the look of a
+/// condition that changes nothing.
 class CellStyles {
  public:
   explicit CellStyles(const Reference<css::frame::XModel>& model) : model_(model) {}

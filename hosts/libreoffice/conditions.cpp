@@ -12,6 +12,7 @@
 #include <com/sun/star/sheet/XSheetConditionalEntries.hpp>
 
 #include "hosts/common/name_rules.h"
+#include "hosts/common/palette.h"
 #include "hosts/libreoffice/cell_properties.h"
 #include "hosts/libreoffice/failure.h"
 

@@ -8,14 +8,6 @@
 
 namespace rangewerks::hosts::libreoffice {
 
-const MemberTable& Font::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Font>("Font")
-          .Get(1, "Bold", &Font::GetBold, "Whether the text is bold; null when mixed.")
-          .Let(1, "Bold", &Font::LetBold, "Makes the text bold, or not.");
-  return table;
-}
-
 Variant Font::GetBold() const {
   const auto weight = CommonProperty<float>(OnSheet(), InArea(), "CharWeight");
   if (!weight) return automation::Null();

@@ -1,18 +1,18 @@
-// The late-bound Font of cells.
+// The late-bound Font of cells of the office.
 #pragma once
 
 #include "hosts/libreoffice/cells_part.h"
+#include "hosts/objects/formats.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Font final : public CellsPart<> {
+class Font final : public CellsPart<objects::Font> {
  public:
   Font(SessionPointer session, CellBlock cells) : CellsPart(std::move(session), std::move(cells)) {}
-  const MemberTable& Members() const override;
 
- private:
-  Variant GetBold() const;
-  void LetBold(bool isBold);
+ protected:
+  Variant GetBold() const override;
+  void LetBold(bool isBold) override;
 };
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -4,7 +4,6 @@
 
 #include "hosts/common/local_formula.h"
 #include "hosts/libreoffice/cell_writing.h"
-#include "hosts/libreoffice/failure.h"
 #include "hosts/libreoffice/interior.h"
 #include "platform/excel_constants.h"
 
@@ -43,41 +42,24 @@ class ConditionInterior final : public Interior {
 
 }  // namespace
 
-const MemberTable& FormatConditions::Members() const {
-  static const MemberTable table =
-      MemberTable::For<FormatConditions>("FormatConditions")
-          .Get(0, "Item", &FormatConditions::GetItem, {"Index"}, "One condition, from 1.")
-          .Get(1, "Count", &FormatConditions::GetCount, "Number of conditions.")
-          .Method(2, "Add", &FormatConditions::Add,
-                  {"Type", Optional("Operator"), Optional("Formula1")}, "Adds a condition.")
-          .Method(3, "Delete", &FormatConditions::Delete, {}, "Removes all conditions.");
-  return table;
-}
-
-Variant FormatConditions::GetItem(const Variant& index) const {
-  FoundCondition condition(Cells(), LongArgument(index));
+Variant FormatConditions::GetItem(std::int32_t index) const {
+  FoundCondition condition(Cells(), index);
   condition.Get();  // fails when there is none
   return std::make_shared<FormatCondition>(Office(), condition);
 }
 
-Variant FormatConditions::GetCount() const {
+std::int32_t FormatConditions::Count() const {
   return static_cast<std::int32_t>(ConditionsOf(Cells()).size());
 }
 
-Variant FormatConditions::Add(const Variant& type, const Variant& /*comparison*/,
-                              const Variant& formula1) {
-  if (LongArgument(type) != excel::xlExpression) {
-    Fail("A conditional format of the type " + std::to_string(LongArgument(type)) +
-         " can't be added");
-  }
-  const std::string local = formula1.IsMissing() ? "" : TextArgument(formula1);
-  const auto english = EnglishFormula(local, Office()->OfficeLocale());
-  if (!local.starts_with('=') || !english) Fail("\"" + local + "\" is no formula here");
+Variant FormatConditions::AddFormula(const std::string& formula) {
+  const auto english = EnglishFormula(formula, Office()->OfficeLocale());
+  if (!formula.starts_with('=') || !english) Refuse("\"" + formula + "\" is no formula here");
   RequireWritable(OnSheet(), InArea());
   const css::table::CellAddress first(OnSheet().Index(), InArea().column - 1, InArea().row - 1);
   Formulas& formulas = Cells().book->FormulaTexts();
   const Tokens tokens = formulas.Read(english->substr(1), first);
-  RequireUnderstood(tokens, local);
+  RequireUnderstood(tokens, formula);
   const std::int32_t position = AddCondition(Cells(), formulas.WriteNative(tokens, first));
   return std::make_shared<FormatCondition>(Office(), FoundCondition(Cells(), position));
 }
@@ -85,16 +67,6 @@ Variant FormatConditions::Add(const Variant& type, const Variant& /*comparison*/
 void FormatConditions::Delete() {
   RequireWritable(OnSheet(), InArea());
   ClearConditions(Cells());
-}
-
-const MemberTable& FormatCondition::Members() const {
-  static const MemberTable table =
-      MemberTable::For<FormatCondition>("FormatCondition")
-          .Get(1, "Type", &FormatCondition::GetType, "What decides: a formula, the cell's value.")
-          .Get(2, "Formula1", &FormatCondition::GetFormula1, "The formula, as the locale has it.")
-          .Get(3, "Interior", &FormatCondition::GetInterior, "The fill while it holds.")
-          .Method(4, "Delete", &FormatCondition::Delete, {}, "Removes it from these cells.");
-  return table;
 }
 
 Variant FormatCondition::GetType() {

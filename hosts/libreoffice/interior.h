@@ -1,25 +1,22 @@
-// The late-bound Interior: the fill of cells, or of a conditional format.
+// The late-bound Interior: the fill of cells of the office, or of a conditional format.
 #pragma once
 
 #include "hosts/libreoffice/cells_part.h"
+#include "hosts/objects/formats.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Interior : public CellsPart<> {
- public:
-  const MemberTable& Members() const override;
-
+/// The office keeps colours as 0xRRGGBB.
+class Interior : public CellsPart<objects::Interior> {
  protected:
   using CellsPart::CellsPart;
+
+  std::optional<std::int32_t> Fill() final;
+  void Paint(std::int32_t fill) final;
+
   /// The fill as the office has it; none when the cells differ.
   virtual std::optional<std::int32_t> ReadFill() = 0;
   virtual void PutFill(std::int32_t fill) = 0;
-
- private:
-  Variant GetColor();
-  void LetColor(const Variant& color);
-  Variant GetColorIndex();
-  void LetColorIndex(const Variant& index);
 };
 
 class CellsInterior final : public Interior {

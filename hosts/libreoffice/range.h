@@ -16,11 +16,12 @@ class Range final : public OfficeObject<objects::Range> {
 
   Variant GetValue() const override;
   void LetValue(const Variant& value) override;
+  const void* Sheet() const noexcept override { return sheet_.get(); }
+  std::string SheetName() const override { return sheet_->Name(); }
+  std::shared_ptr<objects::Range> Make(const Area& area, Elements elements) const override;
 
  protected:
   void RequireAlive() const override { RequireThere(*sheet_); }
-  std::shared_ptr<objects::Range> Make(const Area& area, Elements elements) const override;
-  std::string SheetName() const override { return sheet_->Name(); }
 
   Variant GetFormula() const override;
   void LetFormula(const Variant& value) override;
@@ -38,9 +39,9 @@ class Range final : public OfficeObject<objects::Range> {
   void FitColumns() override;
   Variant GetFont() const override;
   Variant GetInterior() const override;
-  Variant GetBorders(const Variant& index) const override;
+  std::shared_ptr<objects::Borders> Lines() const override;
   Variant GetValidation() const override;
-  Variant GetFormatConditions(const Variant& index) const override;
+  std::shared_ptr<objects::FormatConditions> Conditions() const override;
 
   std::shared_ptr<objects::HostObject> FindName() const override;
   void LetName(const Variant& name) override;

@@ -7,6 +7,7 @@
 #include <com/sun/star/table/XColumnRowRange.hpp>
 
 #include "automation/conversions.h"
+#include "hosts/common/format_numbers.h"
 #include "hosts/libreoffice/border.h"
 #include "hosts/libreoffice/cell_properties.h"
 #include "hosts/libreoffice/cell_writing.h"
@@ -17,7 +18,6 @@
 #include "hosts/libreoffice/interior.h"
 #include "hosts/libreoffice/range.h"
 #include "hosts/libreoffice/validation.h"
-#include "hosts/libreoffice/workbook.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::libreoffice {
@@ -35,7 +35,6 @@ struct Alignment {
   std::int32_t number;
   CellHoriJustify office;
 };
-constexpr std::int32_t kCenter = -4108;
 constexpr std::array<Alignment, 4> kAlignments{
     {{excel::xlGeneral, css::table::CellHoriJustify_STANDARD},
      {excel::xlLeft, css::table::CellHoriJustify_LEFT},
@@ -115,8 +114,8 @@ void Range::LetWrapText(bool wraps) { PutProperty(*sheet_, area_, kWrap, Any(wra
 
 Variant Range::GetFont() const { return std::make_shared<Font>(Office(), Block()); }
 Variant Range::GetInterior() const { return std::make_shared<CellsInterior>(Office(), Block()); }
-Variant Range::GetBorders(const Variant& index) const {
-  return std::make_shared<Border>(Office(), Block(), LongArgument(index));
+std::shared_ptr<objects::Borders> Range::Lines() const {
+  return std::make_shared<Borders>(Office(), Block());
 }
 
 // --- columns -------------------------------------------------------------------------------------
@@ -149,8 +148,8 @@ void Range::FitColumns() {
 // --- rules ---------------------------------------------------------------------------------------
 
 Variant Range::GetValidation() const { return std::make_shared<Validation>(Office(), Block()); }
-Variant Range::GetFormatConditions(const Variant& index) const {
-  return libreoffice::Element<FormatConditions>(index, Office(), Block());
+std::shared_ptr<objects::FormatConditions> Range::Conditions() const {
+  return std::make_shared<FormatConditions>(Office(), Block());
 }
 
 }  // namespace rangewerks::hosts::libreoffice

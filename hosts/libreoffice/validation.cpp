@@ -27,16 +27,6 @@ constexpr const char* kType = "Type";
 constexpr const char* kAlertStyle = "ErrorAlertStyle";
 constexpr const char* kIgnoreBlank = "IgnoreBlankCells";
 
-/// A text of the rule: its name, which is the office's too, and how long it may be.
-struct RuleText {
-  const char* name;
-  std::size_t longest;
-};
-constexpr std::array<RuleText, 4> kTexts{{{"ErrorTitle", kLongestValidationTitle},
-                                          {"ErrorMessage", kLongestErrorMessage},
-                                          {"InputTitle", kLongestValidationTitle},
-                                          {"InputMessage", kLongestInputMessage}}};
-
 /// A number of the object model and the office's word for it.
 template <class Office>
 struct Pair {
@@ -131,45 +121,19 @@ std::optional<std::string> ListOf(const std::string& native) {
 
 }  // namespace
 
-const MemberTable& Validation::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Validation>("Validation")
-          .Method(1, "Add", &Validation::Add,
-                  {"Type", Optional("AlertStyle"), Optional("Operator"), Optional("Formula1")},
-                  "Gives the cells a rule; fails when they have one.")
-          .Method(2, "Delete", &Validation::Delete, {}, "Takes the rule away, if there is one.")
-          .Get(3, "Type", &Validation::GetType, "What the rule is about.")
-          .Get(4, "AlertStyle", &Validation::GetAlertStyle, "What a refused entry brings.")
-          .Get(5, "Operator", &Validation::GetOperator, "How the entry is compared.")
-          .Get(6, "Formula1", &Validation::GetFormula1, "What the entry is compared with.")
-          .Get(7, "IgnoreBlank", &Validation::GetIgnoreBlank, "Whether blank cells are allowed.")
-          .Let(7, "IgnoreBlank", &Validation::LetIgnoreBlank, "Allows blank cells, or not.")
-          .Get(8, "ErrorTitle", &Validation::GetText<0>, "Title of the refusal.")
-          .Let(8, "ErrorTitle", &Validation::LetText<0>, "Sets the title, up to 32 characters.")
-          .Get(9, "ErrorMessage", &Validation::GetText<1>, "Text of the refusal.")
-          .Let(9, "ErrorMessage", &Validation::LetText<1>, "Sets the text, up to 225 characters.")
-          .Get(10, "InputTitle", &Validation::GetText<2>, "Title of the tooltip.")
-          .Let(10, "InputTitle", &Validation::LetText<2>, "Sets the title, up to 32 characters.")
-          .Get(11, "InputMessage", &Validation::GetText<3>, "Text of the tooltip.")
-          .Let(11, "InputMessage", &Validation::LetText<3>, "Sets the text, up to 255 characters.");
-  return table;
-}
-
 // --- the rule as a whole -------------------------------------------------------------------------
 
-void Validation::Add(const Variant& type, const Variant& alertStyle, const Variant& comparison,
-                     const Variant& formula1) {
-  const std::int32_t number = LongArgument(type);
-  const bool isKnown =
-      std::find(kTypesToAdd.begin(), kTypesToAdd.end(), number) != kTypesToAdd.end();
-  if (!isKnown) Fail("A validation of the type " + std::to_string(number) + " can't be added");
+void Validation::Add(std::int32_t type, const Variant& alertStyle, const Variant& comparison,
+                     const Variant& formula) {
+  const bool isKnown = std::find(kTypesToAdd.begin(), kTypesToAdd.end(), type) != kTypesToAdd.end();
+  if (!isKnown) Refuse("A validation of the type " + std::to_string(type) + " can't be added");
   RequireWritable(OnSheet(), InArea());
   const CellProperties cells = PropertiesOf(OnSheet(), InArea());
   if (StateOf(cells, kRule) != css::beans::PropertyState_DEFAULT_VALUE) {
     Fail(Place() + " has a validation already");
   }
   const auto rule = Property<Rule>(cells, kRule);
-  rule->setPropertyValue(ToUno(kType), Any(OfficeWord(kTypes, number, kType)));
+  rule->setPropertyValue(ToUno(kType), Any(OfficeWord(kTypes, type, kType)));
   if (!alertStyle.IsMissing()) {
     rule->setPropertyValue(ToUno(kAlertStyle),
                            Any(OfficeWord(kAlertStyles, LongArgument(alertStyle), "AlertStyle")));
@@ -177,7 +141,7 @@ void Validation::Add(const Variant& type, const Variant& alertStyle, const Varia
   // The office shows nothing unless it is told to.
   rule->setPropertyValue(ToUno("ShowErrorMessage"), Any(true));
   rule->setPropertyValue(ToUno("ShowInputMessage"), Any(true));
-  if (number != excel::xlValidateInputOnly) PutCondition(rule, number, comparison, formula1);
+  if (type != excel::xlValidateInputOnly) PutCondition(rule, type, comparison, formula);
   cells->setPropertyValue(ToUno(kRule), Any(rule));
 }
 
@@ -240,21 +204,12 @@ void Validation::PutProperty(const char* property, const Any& value) {
   cells->setPropertyValue(ToUno(kRule), Any(rule));
 }
 
-template <std::size_t Text>
-Variant Validation::GetText() const {
-  return ToUtf8(Property<OUString>(Required(), std::get<Text>(kTexts).name));
+std::string Validation::Text(std::size_t text) const {
+  return ToUtf8(Property<OUString>(Required(), kValidationTexts.at(text).member));
 }
 
-template <std::size_t Text>
-void Validation::LetText(const Variant& text) {
-  const auto& [name, longest] = std::get<Text>(kTexts);
-  const std::string given = TextArgument(text);
-  const std::size_t length = automation::Length(given);
-  if (length > longest) {
-    Fail(std::string("The ") + name + " of a validation can't have " + std::to_string(length) +
-         " characters, only " + std::to_string(longest));
-  }
-  PutProperty(name, Any(ToUno(given)));
+void Validation::PutText(std::size_t text, const std::string& value) {
+  PutProperty(kValidationTexts.at(text).member, Any(ToUno(value)));
 }
 
 Variant Validation::GetIgnoreBlank() const { return Property<bool>(Required(), kIgnoreBlank); }

@@ -1,38 +1,35 @@
-// The late-bound Validation: the rule of what may be entered into cells, with its messages.
+// The late-bound Validation of cells of the office.
 #pragma once
 
 #include <com/sun/star/sheet/XSheetCondition.hpp>
 
 #include "hosts/libreoffice/cell_properties.h"
 #include "hosts/libreoffice/cells_part.h"
+#include "hosts/objects/validation.h"
 
 namespace rangewerks::hosts::libreoffice {
 
 /// Every call reads the rule from the cells, and writes a changed one back to all of them.
-class Validation final : public CellsPart<> {
+class Validation final : public CellsPart<objects::Validation> {
  public:
   Validation(SessionPointer session, CellBlock cells)
       : CellsPart(std::move(session), std::move(cells)) {}
-  const MemberTable& Members() const override;
+
+ protected:
+  void Add(std::int32_t type, const Variant& alertStyle, const Variant& comparison,
+           const Variant& formula) override;
+  void Delete() override;
+
+  Variant GetType() const override;
+  Variant GetAlertStyle() const override;
+  Variant GetOperator() const override;
+  Variant GetFormula1() const override;
+  Variant GetIgnoreBlank() const override;
+  void LetIgnoreBlank(bool ignores) override;
+  std::string Text(std::size_t text) const override;
+  void PutText(std::size_t text, const std::string& value) override;
 
  private:
-  void Add(const Variant& type, const Variant& alertStyle, const Variant& comparison,
-           const Variant& formula1);
-  void Delete();
-
-  Variant GetType() const;
-  Variant GetAlertStyle() const;
-  Variant GetOperator() const;
-  Variant GetFormula1() const;
-
-  /// One of the four texts, by its number.
-  template <std::size_t Text>
-  Variant GetText() const;
-  template <std::size_t Text>
-  void LetText(const Variant& text);
-  Variant GetIgnoreBlank() const;
-  void LetIgnoreBlank(bool ignores);
-
   using Rule = Reference<css::beans::XPropertySet>;
   /// Raises 1004 when the cells have no rule, or not the same.
   Rule Required() const;

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 
+#include "hosts/common/format_numbers.h"
 #include "hosts/common/name_rules.h"
 #include "platform/excel_constants.h"
 
@@ -19,7 +20,6 @@ const Member kCells{"Cells"};
 const Member kRange{"Range"};
 
 constexpr double kWidestColumn = 255;
-constexpr std::int32_t kCenter = -4108;
 constexpr std::array<std::int32_t, 4> kAlignments{excel::xlGeneral, excel::xlLeft, kCenter,
                                                   excel::xlRight};
 
@@ -220,6 +220,16 @@ void Range::AutoFit() {
     Refuse("Only whole columns can be made as wide as what they show, not " + Place());
   }
   FitColumns();
+}
+
+Variant Range::GetBorders(const Variant& index) const {
+  const auto borders = Lines();
+  return index.IsMissing() ? Variant(borders) : borders->GetItem(LongArgument(index));
+}
+
+Variant Range::GetFormatConditions(const Variant& index) const {
+  const auto conditions = Conditions();
+  return index.IsMissing() ? Variant(conditions) : conditions->GetItem(LongArgument(index));
 }
 
 Variant Range::GetName() const {

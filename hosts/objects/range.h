@@ -2,7 +2,8 @@
 #pragma once
 
 #include "hosts/common/area.h"
-#include "hosts/objects/host_object.h"
+#include "hosts/objects/format_conditions.h"
+#include "hosts/objects/formats.h"
 
 namespace rangewerks::hosts::objects {
 
@@ -17,6 +18,11 @@ class Range : public HostObject {
 
   virtual Variant GetValue() const = 0;
   virtual void LetValue(const Variant& value) = 0;
+  /// What tells the sheet from all others.
+  virtual const void* Sheet() const noexcept = 0;
+  virtual std::string SheetName() const = 0;
+  /// Other cells of the sheet.
+  virtual std::shared_ptr<Range> Make(const Area& area, Elements elements) const = 0;
   /// All cells, or one by its place within the range.
   Variant GetCells(const Variant& row, const Variant& column) const;
 
@@ -26,9 +32,6 @@ class Range : public HostObject {
   Variant Carry(const Invocation& call) final;
   std::unique_ptr<Enumerator> Walk() final;
 
-  /// Other cells of the sheet.
-  virtual std::shared_ptr<Range> Make(const Area& area, Elements elements) const = 0;
-  virtual std::string SheetName() const = 0;
   /// The cells with their sheet, for messages: "'Data Sheet'!$C$3".
   std::string Place() const;
 
@@ -51,11 +54,9 @@ class Range : public HostObject {
   virtual void FitColumns() = 0;
   virtual Variant GetFont() const = 0;
   virtual Variant GetInterior() const = 0;
-  /// All lines around and between the cells, or one of them.
-  virtual Variant GetBorders(const Variant& index) const = 0;
+  virtual std::shared_ptr<Borders> Lines() const = 0;
   virtual Variant GetValidation() const = 0;
-  /// All conditional formats of the cells, or one of them.
-  virtual Variant GetFormatConditions(const Variant& index) const = 0;
+  virtual std::shared_ptr<FormatConditions> Conditions() const = 0;
 
   /// A Name that stands for exactly these cells, or null.
   virtual std::shared_ptr<HostObject> FindName() const = 0;
@@ -85,6 +86,10 @@ class Range : public HostObject {
   void LetHorizontalAlignment(std::int32_t alignment);
   void LetColumnWidth(double characters);
   void AutoFit();
+  /// All lines around and between the cells, or one of them.
+  Variant GetBorders(const Variant& index) const;
+  /// All conditional formats of the cells, or one of them.
+  Variant GetFormatConditions(const Variant& index) const;
   Variant GetName() const;
   void Select();
 

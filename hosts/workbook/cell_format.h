@@ -4,6 +4,7 @@
 #include <cstdint>
 #include <string>
 
+#include "hosts/common/palette.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
@@ -13,10 +14,6 @@ inline constexpr const char* kTextFormat = "@";
 
 /// 0xBBGGRR.
 using Color = std::int32_t;
-inline constexpr Color kNoFill = -1;
-
-/// Alignments that nobody but this host asks for.
-inline constexpr std::int32_t kCenter = -4108;
 
 struct CellFormat {
   std::string number;  ///< number format; empty stands for "General"

@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 
+#include "hosts/common/format_numbers.h"
 #include "hosts/workbook/cell_format.h"
 #include "hosts/workbook/lines.h"
 #include "hosts/workbook/validation_rule.h"

@@ -1,45 +1,39 @@
-// The late-bound FormatConditions of a range, and one FormatCondition of them.
+// The late-bound FormatConditions of a range in memory, and one FormatCondition of them.
 #pragma once
 
-#include <vector>
-
+#include "hosts/objects/format_conditions.h"
 #include "hosts/workbook/cells_object.h"
 #include "hosts/workbook/conditional_format.h"
+#include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
 
-/// The conditional formats that any of the cells has, in the order in which they were added.
-class FormatConditions final : public CellsObject<> {
+class FormatConditions final : public CellsObject<objects::FormatConditions> {
  public:
-  FormatConditions(SessionPointer session, SheetPointer sheet, Area area);
-  const MemberTable& Members() const override;
-  Variant GetItem(std::int32_t index) const;
+  FormatConditions(SessionPointer session, SheetPointer sheet, Area area)
+      : CellsObject(std::move(session), std::move(sheet), area) {}
+  Variant GetItem(std::int32_t index) const override;
 
  protected:
-  std::unique_ptr<Enumerator> Walk() override;
-
- private:
-  Variant Add(std::int32_t type, const Variant& comparison, const Variant& formula);
-  Variant GetCount() const;
-  void Delete();
-  Variant Face(const ConditionalFormatPointer& format) const;
+  std::int32_t Count() const override;
+  Variant AddFormula(const std::string& formula) override;
+  void Delete() override { sheet_->conditionalFormats.RemoveAll(area_); }
 };
 
-class FormatCondition final : public CellsObject<> {
+class FormatCondition final : public CellsObject<objects::FormatCondition> {
  public:
   FormatCondition(SessionPointer session, SheetPointer sheet, Area area,
-                  ConditionalFormatPointer format);
-  const MemberTable& Members() const override;
+                  ConditionalFormatPointer format)
+      : CellsObject(std::move(session), std::move(sheet), area), format_(std::move(format)) {}
 
  protected:
   void RequireAlive() const override;
+  Variant GetType() override { return std::int32_t{excel::xlExpression}; }
+  Variant GetFormula1() override { return format_->formula; }
+  Variant GetInterior() override;
+  void Delete() override { sheet_->conditionalFormats.Remove(area_, format_); }
 
  private:
-  Variant GetType() const;
-  Variant GetFormula1() const;
-  Variant GetInterior() const;
-  void Delete();
-
   ConditionalFormatPointer format_;
 };
 

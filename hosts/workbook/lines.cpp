@@ -2,16 +2,11 @@
 
 #include <string>
 
+#include "hosts/common/format_numbers.h"
 #include "hosts/workbook/failure.h"
 #include "platform/excel_constants.h"
 
 namespace rangewerks::hosts::workbook {
-namespace {
-
-constexpr std::int32_t kInsideVertical = 11;
-
-}  // namespace
-
 std::optional<LineStretch> LinesOf(const Area& area, std::int32_t bordersIndex) {
   Area cells = area;
   switch (bordersIndex) {

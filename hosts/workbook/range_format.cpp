@@ -77,18 +77,16 @@ void Range::FitColumns() {
 Variant Range::GetFont() const { return std::make_shared<Font>(Shared(), sheet_, area_); }
 Variant Range::GetInterior() const { return std::make_shared<CellFill>(Shared(), sheet_, area_); }
 
-Variant Range::GetBorders(const Variant& index) const {
-  const auto borders = std::make_shared<Borders>(Shared(), sheet_, area_);
-  return index.IsMissing() ? Variant(borders) : borders->GetItem(LongArgument(index));
+std::shared_ptr<objects::Borders> Range::Lines() const {
+  return std::make_shared<Borders>(Shared(), sheet_, area_);
 }
 
 Variant Range::GetValidation() const {
   return std::make_shared<Validation>(Shared(), sheet_, area_);
 }
 
-Variant Range::GetFormatConditions(const Variant& index) const {
-  const auto conditions = std::make_shared<FormatConditions>(Shared(), sheet_, area_);
-  return index.IsMissing() ? Variant(conditions) : conditions->GetItem(LongArgument(index));
+std::shared_ptr<objects::FormatConditions> Range::Conditions() const {
+  return std::make_shared<FormatConditions>(Shared(), sheet_, area_);
 }
 
 }  // namespace rangewerks::hosts::workbook

@@ -110,7 +110,7 @@ void ReadValidation(Sheet& sheet, const JsonEntry& entry) {
   if (entry.Has("ignore_blank")) rule.ignoresBlank = entry.At("ignore_blank").Boolean();
   for (std::size_t i = 0; i < kRuleTexts.size(); ++i) {
     const char* const key = kRuleTextKeys.at(i);
-    if (entry.Has(key)) rule.*kRuleTexts.at(i).text = entry.At(key).Text();
+    if (entry.Has(key)) rule.*kRuleTexts.at(i) = entry.At(key).Text();
   }
   entry.Do([&] { AddRule(sheet.validation, area, rule); });
 }

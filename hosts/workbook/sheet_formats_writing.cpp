@@ -75,7 +75,7 @@ Json JsonOfRule(const Area& area, const ValidationRule& rule) {
   if (!rule.formula.empty()) entry["formula"] = rule.formula;
   if (!rule.ignoresBlank) entry["ignore_blank"] = false;
   for (std::size_t i = 0; i < kRuleTexts.size(); ++i) {
-    const std::string& text = rule.*kRuleTexts.at(i).text;
+    const std::string& text = rule.*kRuleTexts.at(i);
     if (!text.empty()) entry[kRuleTextKeys.at(i)] = text;
   }
   return entry;

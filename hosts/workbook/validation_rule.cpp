@@ -38,6 +38,13 @@ void RequireNumbers(const ValidationRule& rule) {
   }
 }
 
+void RequireTexts(const ValidationRule& rule) {
+  for (std::size_t i = 0; i < kRuleTexts.size(); ++i) {
+    const std::string fault = FaultOfText(kValidationTexts.at(i), rule.*kRuleTexts.at(i));
+    if (!fault.empty()) Refuse(fault);
+  }
+}
+
 }  // namespace
 
 bool Compares(std::int32_t type) {
@@ -45,16 +52,10 @@ bool Compares(std::int32_t type) {
          type == excel::xlValidateTextLength;
 }
 
-void RequireLength(const RuleText& text, const std::string& value) {
-  if (automation::Length(value) <= text.longest) return;
-  Refuse(std::string("The ") + text.member + " of a validation can't have more than " +
-         std::to_string(text.longest) + " characters");
-}
-
 void AddRule(ValidationRules& rules, const Area& area, const ValidationRule& rule) {
   RequireNumbers(rule);
   RequireFormula(rule);
-  for (const RuleText& text : kRuleTexts) RequireLength(text, rule.*text.text);
+  RequireTexts(rule);
   if (rules.Any(area)) Refuse("Cells of " + AddressOf(area) + " have a validation already");
   rules.Set(area, rule);
 }

@@ -26,26 +26,18 @@ struct ValidationRule {
   friend bool operator==(const ValidationRule&, const ValidationRule&) = default;
 };
 
-/// A text of a rule by its member's name, and the most characters that it can have.
-struct RuleText {
-  const char* member;
-  std::string ValidationRule::*text;
-  std::size_t longest;
-};
-inline constexpr std::array<RuleText, 4> kRuleTexts{
-    {{"ErrorTitle", &ValidationRule::errorTitle, kLongestValidationTitle},
-     {"ErrorMessage", &ValidationRule::errorMessage, kLongestErrorMessage},
-     {"InputTitle", &ValidationRule::inputTitle, kLongestValidationTitle},
-     {"InputMessage", &ValidationRule::inputMessage, kLongestInputMessage}}};
+/// The texts of a rule, in the order of kValidationTexts.
+inline constexpr std::array<std::string ValidationRule::*, kValidationTexts.size()> kRuleTexts{
+    &ValidationRule::errorTitle, &ValidationRule::errorMessage, &ValidationRule::inputTitle,
+    &ValidationRule::inputMessage};
 
 /// The rules of a sheet: a cell has one or none.
 using ValidationRules = AreaValues<std::optional<ValidationRule>>;
 
 /// Whether rules of that type compare the entry with their formula.
 bool Compares(std::int32_t type);
-/// Raises 1004 for a text that is too long.
-void RequireLength(const RuleText& text, const std::string& value);
-/// Gives the cells a rule. Raises 1004 for a rule that can't be, and when a cell has one already.
+/// Gives the cells a rule. Raises 1004 for a rule that can't be, a text that is too long too, and
+/// when a cell has one already.
 void AddRule(ValidationRules& rules, const Area& area, const ValidationRule& rule);
 
 }  // namespace rangewerks::hosts::workbook

@@ -154,5 +154,19 @@ TEST_P(ConditionalFormatsContract, AnotherTypeThanAFormulaFails) {
   EXPECT_EQ(Count("B2"), 0);
 }
 
+TEST_P(ConditionalFormatsContract, AreEnumeratedInTheOrderInWhichTheyWereAdded) {
+  EXPECT_TRUE(Elements(Conditions("B2:B9")).empty());
+  Add("B2:B9", "=TRUE");
+  Add("B2:B9", Banding());
+  const auto all = Elements(Conditions("B2:B9"));
+  ASSERT_EQ(all.size(), 2U);
+  EXPECT_EQ(GetText(all.back().AsObject(), "Formula1"), Banding());
+}
+
+TEST_P(ConditionalFormatsContract, AConditionWithoutAFormulaIsRefused) {
+  EXPECT_TRUE(Fails([&] { Call(Conditions("B2:B9"), "Add", {2}); }));
+  EXPECT_EQ(Count("B2:B9"), 0);
+}
+
 }  // namespace
 }  // namespace rangewerks::tests

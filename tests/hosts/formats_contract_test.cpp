@@ -277,5 +277,20 @@ TEST_P(FormatsContract, AutoFitOfASingleCellFails) {
   EXPECT_TRUE(Fails([&] { Call(Cells("B2"), "AutoFit"); }));
 }
 
+TEST_P(FormatsContract, ALineIsReachedThroughTheCollectionOfBordersToo) {
+  const Object borders = GetObject(Cells("B2:C3"), "Borders");
+  EXPECT_EQ(borders.TypeName(), "Borders");
+  Let(GetObject(borders, "Item", {excel::xlEdgeTop}), "LineStyle", excel::xlDouble);
+  EXPECT_EQ(GetLong(GetObject(borders, "_Default", {excel::xlEdgeTop}), "LineStyle"),
+            excel::xlDouble);
+  EXPECT_TRUE(Fails([&] { Get(borders, "Item", {99}); }));
+}
+
+TEST_P(FormatsContract, LinesOfOtherStylesAndWeightsAreRefused) {
+  EXPECT_TRUE(Fails([&] { Let(Border("B2", excel::xlEdgeTop), "LineStyle", 99); }));
+  EXPECT_TRUE(Fails([&] { Let(Border("B2", excel::xlEdgeTop), "Weight", 99); }));
+  ExpectNoLine("B2", excel::xlEdgeTop);
+}
+
 }  // namespace
 }  // namespace rangewerks::tests
