@@ -2,30 +2,29 @@
 #pragma once
 
 #include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/application.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Application final : public OfficeObject<> {
+class Application final : public OfficeObject<objects::Application> {
  public:
   explicit Application(SessionPointer session) : OfficeObject(std::move(session)) {}
   static std::shared_ptr<Application> Of(const SessionPointer& session);
-  const MemberTable& Members() const override;
+
   const SessionPointer& OfSession() const noexcept { return Office(); }
 
- private:
-  Variant GetName() const;
-  Variant GetVersion() const;
-  Variant GetWorkbooks(const Variant& index) const;
-  Variant GetNames(const Variant& index) const;
-  Variant GetSheets(const Variant& index) const;
-  Variant GetActiveWorkbook() const;
-  Variant GetActiveSheet() const;
-  Variant GetSelection() const;
-  Variant GetInternational(const Variant& index) const;
-  Variant GetApplication() const;
-  Variant GetCommandBars(const Variant& index) const;
-  Variant GetShortcutMenus(std::int32_t index) const;
-  Variant Intersect(const Variant& first, const Variant& second) const;
+ protected:
+  Variant GetName() const override { return "LibreOffice"; }
+  Variant GetVersion() const override;
+  std::shared_ptr<objects::Collection> Workbooks() const override;
+  std::shared_ptr<objects::Collection> Names() const override;
+  std::shared_ptr<objects::Collection> Sheets() const override;
+  std::shared_ptr<objects::HostObject> ActiveWorkbook() const override;
+  std::shared_ptr<objects::Worksheet> ActiveSheet() const override;
+  Variant GetSelection() const override;
+  Variant GetInternational(const Variant& index) const override;
+  std::shared_ptr<objects::Collection> CommandBars() const override;
+  std::shared_ptr<objects::HostObject> MenuOfCells() const override;
 };
 
 }  // namespace rangewerks::hosts::libreoffice

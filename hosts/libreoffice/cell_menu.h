@@ -6,21 +6,15 @@
 #include <string>
 #include <vector>
 
-#include "automation/dispatch.h"
 #include "hosts/libreoffice/book.h"
 #include "hosts/libreoffice/menu_board.h"
+#include "hosts/objects/menu_entry.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-/// One entry. What a person chooses is told to those connected to `events`.
-struct MenuEntry {
+struct MenuEntry : objects::MenuEntry {
   std::int32_t id = 0;  ///< 0 for an entry of the office's
   std::string command;  ///< of an entry of the office's
-  std::string caption;  ///< with "&" in front of the access key
-  std::string tag;
-  std::string onAction;  ///< name of a macro, which isn't run
-  automation::EventSource events;
-  bool deleted = false;
 };
 using MenuEntryPointer = std::shared_ptr<MenuEntry>;
 

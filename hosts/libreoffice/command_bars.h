@@ -4,74 +4,62 @@
 
 #include "hosts/libreoffice/cell_menu.h"
 #include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/command_bars.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class CommandBars final : public OfficeObject<> {
+class CommandBars final : public OfficeObject<objects::CommandBars> {
  public:
   explicit CommandBars(SessionPointer session) : OfficeObject(std::move(session)) {}
-  const MemberTable& Members() const override;
-  /// Raises 9 for anything but 1 and "Cell".
-  Variant GetItem(const Variant& index) const;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
-
- private:
-  Variant GetCount() const;
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override { return std::int32_t{1}; }
 };
 
 /// The bar "Cell".
-class CommandBar final : public OfficeObject<> {
+class CommandBar final : public OfficeObject<objects::CommandBar> {
  public:
   explicit CommandBar(SessionPointer session) : OfficeObject(std::move(session)) {}
-  const MemberTable& Members() const override;
 
- private:
-  Variant GetName() const;
-  Variant GetControls(const Variant& index) const;
+ protected:
+  Variant GetName() const override;
+  std::shared_ptr<objects::Collection> Controls() const override;
 };
 
-class CommandBarControls final : public OfficeObject<> {
+class CommandBarControls final : public OfficeObject<objects::CommandBarControls> {
  public:
   explicit CommandBarControls(SessionPointer session) : OfficeObject(std::move(session)) {}
-  const MemberTable& Members() const override;
-  /// The control at a position or of a caption. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+
+  Variant GetItem(const Variant& index) const override;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
-
- private:
-  Variant GetCount() const;
+  Variant GetCount() const override;
 };
 
-/// Event: Click, with the control, when a person's choice is told (Office::TellMenuChoices).
-class CommandBarControl final : public OfficeObject<> {
+/// The event Click is raised when a person's choice is told (Office::TellMenuChoices).
+class CommandBarControl final : public OfficeObject<objects::CommandBarControl> {
  public:
-  CommandBarControl(SessionPointer session, MenuEntryPointer entry);
-  const MemberTable& Members() const override;
-  automation::Connection Connect(automation::EventHandler handler) override;
+  CommandBarControl(SessionPointer session, MenuEntryPointer entry)
+      : OfficeObject(std::move(session)), entry_(std::move(entry)) {}
 
-  static void RaiseClick(const SessionPointer& session, const MenuEntryPointer& entry);
+  /// Those of every host, and BuiltIn.
+  const MemberTable& Members() const override;
 
  protected:
-  void RequireAlive() const override;
+  MenuEntry& Entry() const override { return *entry_; }
+  void LetCaption(const std::string& caption) override {
+    Office()->Menu().PutCaption(entry_, caption);
+  }
+  void Remove() override { Office()->Menu().Remove(entry_); }
 
  private:
-  Variant GetCaption() const;
-  void LetCaption(const std::string& caption);
-  Variant GetTag() const;
-  void LetTag(const std::string& tag);
-  Variant GetOnAction() const;
-  void LetOnAction(const std::string& macro);
-  Variant GetBuiltIn() const;
-  void Delete(const Variant& temporary);
+  Variant GetBuiltIn() const { return entry_->id == 0; }
 
   MenuEntryPointer entry_;
 };
-
-/// Raises 1004 when the entry has been deleted.
-void RequireThere(const MenuEntry& entry);
 
 }  // namespace rangewerks::hosts::libreoffice

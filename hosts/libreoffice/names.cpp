@@ -51,51 +51,30 @@ std::string ContentArgument(Book& book, const Variant& given) {
   return NativeReference({range->OnSheet()->Name(), range->Cells()});
 }
 
-Names::Names(SessionPointer session, BookPointer book, SheetPointer sheet)
-    : OfficeObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
-
-const MemberTable& Names::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Names>("Names")
-          .Get(0, "Item", &Names::GetItem, {"Index"}, "The name of that text or at that position.")
-          .Get(1, "Count", &Names::GetCount, "Number of names.")
-          .Method(2, "Add", &Names::Add, {"Name", "RefersTo"}, "Defines a name or moves it.")
-          .Get(3, "Parent", &Names::GetParent, "The workbook or the sheet.")
-          .Get(4, "Application", &Names::GetApplication, "The application.");
-  return table;
-}
-
 void Names::RequireAlive() const {
   RequireOpen(*book_);
   if (sheet_) RequireThere(*sheet_);
 }
 
-Variant Names::GetItem(const Variant& index) const {
-  if (const auto* text = index.TryGet<std::string>()) {
-    auto name = FindName(*book_, sheet_, std::string(WithoutTrailingBlank(*text)));
-    if (!name || (sheet_ && name->Scope() != sheet_)) {
-      Fail("Workbook \"" + book_->Name() + "\" has no name \"" + *text + "\"");
-    }
-    return std::make_shared<Name>(Office(), book_, std::move(*name));
-  }
-  const std::int32_t position = LongArgument(index);
-  auto all = AllNames(*book_, sheet_);
-  if (position < 1 || static_cast<std::size_t>(position) > all.size()) {
-    Fail("Workbook \"" + book_->Name() + "\" has no name number " + std::to_string(position) +
-         " among its " + std::to_string(all.size()));
-  }
-  return std::make_shared<Name>(Office(), book_,
-                                std::move(all[static_cast<std::size_t>(position) - 1]));
+std::shared_ptr<automation::Dispatch> Names::Find(const std::string& text) const {
+  auto name = FindName(*book_, sheet_, std::string(WithoutTrailingBlank(text)));
+  if (!name || (sheet_ && name->Scope() != sheet_)) return nullptr;
+  return std::make_shared<Name>(Office(), book_, std::move(*name));
+}
+
+objects::Slot Names::At(std::int32_t position) const {
+  return objects::SlotIn(AllNames(*book_, sheet_), position, [this](const DefinedName& name) {
+    return std::make_shared<Name>(Office(), book_, name);
+  });
 }
 
 Variant Names::GetCount() const {
   return static_cast<std::int32_t>(AllNames(*book_, sheet_).size());
 }
 
-Variant Names::Add(const Variant& name, const Variant& refersTo) {
+Variant Names::Add(const std::string& name, const Variant& refersTo) {
   return std::make_shared<Name>(
-      Office(), book_,
-      DefineName(*book_, sheet_, TextArgument(name), ContentArgument(*book_, refersTo)));
+      Office(), book_, DefineName(*book_, sheet_, name, ContentArgument(*book_, refersTo)));
 }
 
 std::unique_ptr<Enumerator> Names::Walk() {

@@ -98,7 +98,7 @@ std::size_t Office::TellMenuChoices(std::chrono::milliseconds wait) {
   };
   while (const MenuEntryPointer entry = next()) {
     ++told;
-    CommandBarControl::RaiseClick(parts_->session, entry);
+    std::make_shared<CommandBarControl>(parts_->session, entry)->RaiseClick();
     const auto handler = parts_->onMenuChoice;  // it may say something else from now on
     if (handler) handler({entry->caption, entry->tag, entry->onAction});
   }

@@ -1,54 +1,47 @@
-// The late-bound Menu and MenuItems: the menu of the cells, as Application.ShortcutMenus gives it.
+// The late-bound Menu, MenuItems and MenuItem of the office: the menu of the cells.
 #pragma once
 
-#include "hosts/libreoffice/command_bars.h"
+#include "hosts/libreoffice/cell_menu.h"
+#include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/shortcut_menu.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Menu final : public OfficeObject<> {
+class Menu final : public OfficeObject<objects::Menu> {
  public:
   explicit Menu(SessionPointer session) : OfficeObject(std::move(session)) {}
-  /// Raises 9 for another number than that of the cells.
-  static Variant Of(const SessionPointer& session, std::int32_t index);
-  const MemberTable& Members() const override;
 
- private:
-  Variant GetMenuItems(const Variant& index) const;
+ protected:
+  std::shared_ptr<objects::Collection> Items() const override;
 };
 
-class MenuItems final : public OfficeObject<> {
+class MenuItem final : public OfficeObject<objects::MenuItem> {
+ public:
+  MenuItem(SessionPointer session, MenuEntryPointer entry)
+      : OfficeObject(std::move(session)), entry_(std::move(entry)) {}
+
+ protected:
+  MenuEntry& Entry() const override { return *entry_; }
+  void LetCaption(const std::string& caption) override {
+    Office()->Menu().PutCaption(entry_, caption);
+  }
+  void Remove() override { Office()->Menu().Remove(entry_); }
+
+ private:
+  MenuEntryPointer entry_;
+};
+
+class MenuItems final : public OfficeObject<objects::MenuItems> {
  public:
   explicit MenuItems(SessionPointer session) : OfficeObject(std::move(session)) {}
-  const MemberTable& Members() const override;
-  /// The item at a position or of a caption. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+
+  Variant GetItem(const Variant& index) const override;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
-
- private:
-  Variant GetCount() const;
-  Variant Add(const std::string& caption, const Variant& onAction, const Variant& shortcutKey,
-              const Variant& before, const Variant& restore, const Variant& statusBar,
-              const Variant& helpFile, const Variant& helpContext);
-};
-
-class MenuItem final : public OfficeObject<> {
- public:
-  MenuItem(SessionPointer session, MenuEntryPointer entry);
-  const MemberTable& Members() const override;
-
- protected:
-  void RequireAlive() const override { RequireThere(*entry_); }
-
- private:
-  Variant GetCaption() const;
-  void LetCaption(const std::string& caption);
-  Variant GetOnAction() const;
-  void LetOnAction(const std::string& macro);
-  void Delete();
-
-  MenuEntryPointer entry_;
+  Variant GetCount() const override;
+  std::shared_ptr<objects::MenuItem> AddItem(const std::string& caption,
+                                             const Variant& before) override;
 };
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -1,8 +1,6 @@
 #include "hosts/libreoffice/vb_project.h"
 
 #include "hosts/libreoffice/code_module.h"
-#include "hosts/libreoffice/failure.h"
-#include "hosts/libreoffice/workbook.h"
 
 namespace rangewerks::hosts::libreoffice {
 
@@ -15,52 +13,31 @@ Module RequiredModule(const MacroProject& project, const std::string& name) {
 // --- the project ---------------------------------------------------------------------------------
 
 const MemberTable& VBProject::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBProject>("VBProject")
-          .Get(0, "Name", &VBProject::GetName, "The project's name.")
-          .Get(1, "VBComponents", &VBProject::GetComponents, {Optional("Index")},
-               "All code modules, or one of them.");
+  static const MemberTable table = MemberTable::Extending<VBProject>(objects::VBProject::Members())
+                                       .Get(0, "Name", &VBProject::GetName, "The project's name.");
   return table;
 }
 
 Variant VBProject::GetName() const { return Project().Name(); }
-Variant VBProject::GetComponents(const Variant& index) const {
-  return Element<VBComponents>(index, Office(), InBook());
+
+std::shared_ptr<objects::Collection> VBProject::Components() const {
+  return std::make_shared<VBComponents>(Office(), InBook());
 }
 
 // --- its modules ---------------------------------------------------------------------------------
 
-const MemberTable& VBComponents::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBComponents>("VBComponents")
-          .Get(0, "Item", &VBComponents::GetItem, {"Index"}, "The module of a name or position.")
-          .Get(1, "Count", &VBComponents::GetCount, "Number of modules.")
-          .Method(2, "Add", &VBComponents::Add, {"ComponentType"},
-                  "A new module: 1 a standard one, 2 a class.")
-          .Method(3, "Remove", &VBComponents::Remove, {"VBComponent"}, "Removes a module.")
-          .Get(4, "Parent", &VBComponents::GetParent, "The project.");
-  return table;
-}
-
-Variant VBComponents::Face(const Module& module) const {
+std::shared_ptr<objects::VBComponent> VBComponents::Face(const Module& module) const {
   return std::make_shared<VBComponent>(Office(), InBook(), module.name);
 }
 
-Variant VBComponents::GetItem(const Variant& index) const {
-  if (const auto* name = index.TryGet<std::string>()) {
-    const auto module = Project().Find(*name);
-    if (!module) {
-      FailElement("Workbook \"" + InBook()->Name() + "\" has no module \"" + *name + "\"");
-    }
-    return Face(*module);
-  }
-  const std::int32_t position = LongArgument(index);
-  const std::vector<Module> modules = Project().Modules();
-  if (position < 1 || static_cast<std::size_t>(position) > modules.size()) {
-    FailElement("Workbook \"" + InBook()->Name() + "\" has no module number " +
-                std::to_string(position) + " among its " + std::to_string(modules.size()));
-  }
-  return Face(modules[static_cast<std::size_t>(position) - 1]);
+std::shared_ptr<automation::Dispatch> VBComponents::Find(const std::string& name) const {
+  const auto module = Project().Find(name);
+  return module ? Face(*module) : nullptr;
+}
+
+objects::Slot VBComponents::At(std::int32_t position) const {
+  return objects::SlotIn(Project().Modules(), position,
+                         [this](const Module& module) { return Face(module); });
 }
 
 Variant VBComponents::GetCount() const {
@@ -69,43 +46,24 @@ Variant VBComponents::GetCount() const {
 
 Variant VBComponents::GetParent() const { return std::make_shared<VBProject>(Office(), InBook()); }
 
-Variant VBComponents::Add(std::int32_t type) {
-  const auto kind = static_cast<ModuleKind>(type);
-  if (kind != ModuleKind::Standard && kind != ModuleKind::Class) {
-    Fail("A module that is added is of the type 1 (standard) or 2 (class), not " +
-         std::to_string(type));
-  }
-  return Face(Project().Add(kind));
+Variant VBComponents::AddModule(bool isClass) {
+  return Face(Project().Add(isClass ? ModuleKind::Class : ModuleKind::Standard));
 }
 
-void VBComponents::Remove(const Variant& component) {
-  const auto given = component.IsObject() ? component.AsObject().As<VBComponent>() : nullptr;
-  if (!given || !given->IsOf(InBook())) {
-    Fail("Only a module of workbook \"" + InBook()->Name() + "\" can be removed from it, not a " +
-         component.TypeName() + (given ? " that isn't one of its" : ""));
-  }
+bool VBComponents::TryRemove(const objects::VBComponent& component) {
+  const auto* const given = dynamic_cast<const VBComponent*>(&component);
+  if (given == nullptr || !given->IsOf(InBook())) return false;
   MacroProject project = Project();
   project.Remove(RequiredModule(project, given->Name()));
+  return true;
 }
 
 std::unique_ptr<Enumerator> VBComponents::Walk() {
-  std::vector<Variant> components;
-  for (const Module& module : Project().Modules()) components.push_back(Face(module));
-  return std::make_unique<automation::SnapshotEnumerator>(std::move(components));
+  return objects::WalkThrough(Project().Modules(),
+                              [this](const Module& module) { return Face(module); });
 }
 
 // --- one of them ---------------------------------------------------------------------------------
-
-const MemberTable& VBComponent::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBComponent>("VBComponent")
-          .Get(1, "Name", &VBComponent::GetName, "The module's name.")
-          .Let(1, "Name", &VBComponent::LetName, "Renames a module that was added.")
-          .Get(2, "Type", &VBComponent::GetType,
-               "1 a standard module, 2 a class, 3 a form, 100 of the workbook or a sheet.")
-          .Get(3, "CodeModule", &VBComponent::GetCodeModule, "The code.");
-  return table;
-}
 
 Variant VBComponent::GetName() const { return RequiredModule(Project(), name_).name; }
 

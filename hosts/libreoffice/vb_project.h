@@ -1,17 +1,19 @@
-// The late-bound VBProject, VBComponents and VBComponent: what Workbook.VBProject is.
+// The late-bound VBProject, VBComponents and VBComponent of the office.
 #pragma once
 
 #include "hosts/libreoffice/macro_project.h"
 #include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/vb_project.h"
 
 namespace rangewerks::hosts::libreoffice {
 
 /// What the objects of a workbook's macros share: they are refused once it has been closed.
-class MacroObject : public OfficeObject<> {
+template <class Face>
+class MacroObject : public OfficeObject<Face> {
  protected:
   MacroObject(SessionPointer session, BookPointer book)
-      : OfficeObject(std::move(session)), book_(std::move(book)) {}
-  void RequireAlive() const override { RequireOpen(*book_); }
+      : OfficeObject<Face>(std::move(session)), book_(std::move(book)) {}
+  void RequireAlive() const final { RequireOpen(*book_); }
   const BookPointer& InBook() const noexcept { return book_; }
   /// As the office has it now: nothing of it is kept between calls.
   MacroProject Project() const { return MacroProject(*book_); }
@@ -20,51 +22,56 @@ class MacroObject : public OfficeObject<> {
   BookPointer book_;
 };
 
-class VBProject final : public MacroObject {
+class VBProject final : public MacroObject<objects::VBProject> {
  public:
   VBProject(SessionPointer session, BookPointer book)
       : MacroObject(std::move(session), std::move(book)) {}
+
+  /// Those of every host, and Name.
   const MemberTable& Members() const override;
+
+ protected:
+  std::shared_ptr<objects::Collection> Components() const override;
 
  private:
   Variant GetName() const;
-  Variant GetComponents(const Variant& index) const;
 };
 
-class VBComponents final : public MacroObject {
+class VBComponents final : public MacroObject<objects::VBComponents> {
  public:
   VBComponents(SessionPointer session, BookPointer book)
       : MacroObject(std::move(session), std::move(book)) {}
-  const MemberTable& Members() const override;
-  Variant GetItem(const Variant& index) const;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  std::string BookName() const override { return InBook()->Name(); }
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
+  Variant AddModule(bool isClass) override;
+  bool TryRemove(const objects::VBComponent& component) override;
+  Variant GetParent() const override;
 
  private:
-  Variant GetCount() const;
-  Variant GetParent() const;
-  Variant Add(std::int32_t type);
-  void Remove(const Variant& component);
-  Variant Face(const Module& module) const;
+  std::shared_ptr<objects::VBComponent> Face(const Module& module) const;
 };
 
 /// A module by the name that it had when it was asked for, or was given through this object.
-class VBComponent final : public MacroObject {
+class VBComponent final : public MacroObject<objects::VBComponent> {
  public:
   VBComponent(SessionPointer session, BookPointer book, std::string name)
       : MacroObject(std::move(session), std::move(book)), name_(std::move(name)) {}
-  const MemberTable& Members() const override;
 
   bool IsOf(const BookPointer& book) const { return InBook() == book; }
   const std::string& Name() const noexcept { return name_; }
 
- private:
-  Variant GetName() const;
-  void LetName(const std::string& name);
-  Variant GetType() const;
-  Variant GetCodeModule() const;
+ protected:
+  Variant GetName() const override;
+  void LetName(const std::string& name) override;
+  Variant GetType() const override;
+  Variant GetCodeModule() const override;
 
+ private:
   std::string name_;
 };
 

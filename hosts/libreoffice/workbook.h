@@ -1,78 +1,79 @@
-// The late-bound Workbook, and the collections Workbooks and Sheets.
+// The late-bound Workbook of the office, and the collections Workbooks and Sheets.
 #pragma once
 
 #include "hosts/libreoffice/names.h"
 #include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/workbook.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-/// A collection itself, or with an index one of its elements: what Workbook.Names and its like are.
-template <class Collection, class... Arguments>
-Variant Element(const Variant& index, Arguments&&... arguments) {
-  const auto all = std::make_shared<Collection>(std::forward<Arguments>(arguments)...);
-  return index.IsMissing() ? Variant(all) : all->GetItem(index);
-}
-
-class Workbook final : public OfficeObject<> {
+class Workbook final : public OfficeObject<objects::Workbook> {
  public:
-  Workbook(SessionPointer session, BookPointer book);
+  Workbook(SessionPointer session, BookPointer book)
+      : OfficeObject(std::move(session)), book_(std::move(book)) {}
   static std::shared_ptr<Workbook> Of(const SessionPointer& session, const BookPointer& book);
+
+  /// Those of every host, and Close.
   const MemberTable& Members() const override;
   const BookPointer& InBook() const noexcept { return book_; }
 
  protected:
   void RequireAlive() const override { RequireOpen(*book_); }
 
+  std::string BookName() const override { return book_->Name(); }
+  std::string File() const override { return book_->Path(); }
+  std::shared_ptr<objects::Collection> Names() const override;
+  std::shared_ptr<objects::Collection> Sheets() const override;
+  Variant GetActiveSheet() const override;
+  Variant GetApplication() const override;
+  void Activate() override { Office()->Activate(book_); }
+  Variant GetVBProject() const override;
+  std::shared_ptr<objects::Collection> CustomDocumentProperties() const override;
+  void SaveCopyAs(const std::string& path) override;
+
  private:
-  Variant GetName() const;
-  Variant GetPath() const;
-  Variant GetFullName() const;
-  Variant GetNames(const Variant& index) const;
-  Variant GetSheets(const Variant& index) const;
-  Variant GetActiveSheet() const;
-  Variant GetApplication() const;
-  Variant GetCustomDocumentProperties(const Variant& index) const;
-  Variant GetVBProject() const;
-  void Activate();
-  void SaveCopyAs(const Variant& path);
   void Close(const Variant& saveChanges);
 
   BookPointer book_;
 };
 
-class Sheets final : public OfficeObject<> {
+class Sheets final : public OfficeObject<objects::Sheets> {
  public:
-  Sheets(SessionPointer session, BookPointer book);
-  const MemberTable& Members() const override;
-  Variant GetItem(const Variant& index) const;
+  Sheets(SessionPointer session, BookPointer book)
+      : OfficeObject(std::move(session)), book_(std::move(book)) {}
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
   void RequireAlive() const override { RequireOpen(*book_); }
+  std::string BookName() const override { return book_->Name(); }
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override { return book_->SheetCount(); }
+  Variant GetParent() const override;
+  Variant GetApplication() const override;
 
  private:
-  Variant GetCount() const;
-  Variant GetParent() const;
-  Variant GetApplication() const;
-
   BookPointer book_;
 };
 
 /// The workbooks that were opened or made through this library.
-class Workbooks final : public OfficeObject<> {
+class Workbooks final : public OfficeObject<objects::Workbooks> {
  public:
   explicit Workbooks(SessionPointer session) : OfficeObject(std::move(session)) {}
+
+  /// Those of every host, and Open.
   const MemberTable& Members() const override;
-  Variant GetItem(const Variant& index) const;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
+  Variant GetApplication() const override;
+  Variant Add() override;
 
  private:
-  Variant GetCount() const;
-  Variant GetApplication() const;
-  Variant Add();
-  Variant Open(const Variant& filename, const Variant& readOnly);
+  Variant Open(const std::string& filename, bool readOnly);
 };
 
 }  // namespace rangewerks::hosts::libreoffice

@@ -1,36 +1,35 @@
-// The late-bound Worksheet.
+// The late-bound Worksheet of the office.
 #pragma once
 
 #include "hosts/libreoffice/office_object.h"
+#include "hosts/objects/worksheet.h"
 
 namespace rangewerks::hosts::libreoffice {
 
-class Worksheet final : public OfficeObject<> {
+class Worksheet final : public OfficeObject<objects::Worksheet> {
  public:
-  Worksheet(SessionPointer session, BookPointer book, SheetPointer sheet);
+  Worksheet(SessionPointer session, BookPointer book, SheetPointer sheet)
+      : OfficeObject(std::move(session)), book_(std::move(book)), sheet_(std::move(sheet)) {}
   static std::shared_ptr<Worksheet> Of(const SessionPointer& session, const BookPointer& book,
                                        const SheetPointer& sheet);
-  const MemberTable& Members() const override;
 
  protected:
-  Variant Carry(const Invocation& call) override;
   void RequireAlive() const override { RequireThere(*sheet_); }
 
+  std::string SheetName() const override { return sheet_->Name(); }
+  const void* Sheet() const noexcept override { return sheet_.get(); }
+  std::shared_ptr<objects::Range> Make(const Area& area) const override;
+  std::optional<Reference> FindName(const std::string& name, bool hasSheet) const override;
+
+  void LetName(const std::string& name) override;
+  Variant GetIndex() const override { return sheet_->Index() + 1; }
+  std::shared_ptr<objects::Collection> Names() const override;
+  Variant GetParent() const override;
+  Variant GetApplication() const override;
+  void Activate() override;
+  void Delete() override { book_->Remove(sheet_); }
+
  private:
-  Variant GetName() const;
-  void LetName(const Variant& name);
-  Variant GetRange(const Variant& first, const Variant& second) const;
-  Variant GetCells(const Variant& row, const Variant& column) const;
-  Variant GetNames(const Variant& index) const;
-  Variant GetIndex() const;
-  Variant GetParent() const;
-  Variant GetApplication() const;
-  void Activate();
-  void Delete();
-
-  Area AreaOf(const Variant& cells) const;
-  Area AreaOf(const std::string& nameOrAddress) const;
-
   BookPointer book_;
   SheetPointer sheet_;
 };

@@ -3,35 +3,27 @@
 #include <algorithm>
 
 #include "automation/text.h"
-#include "hosts/workbook/failure.h"
 
 namespace rangewerks::hosts::workbook {
-// --- all bars ------------------------------------------------------------------------------------
+namespace {
 
-CommandBars::CommandBars(SessionPointer session) : ModelObject(std::move(session)) {}
+constexpr std::int32_t kButton = 1;
 
-const MemberTable& CommandBars::Members() const {
-  static const MemberTable table =
-      MemberTable::For<CommandBars>("CommandBars")
-          .Get(0, "Item", &CommandBars::GetItem, {"Index"}, "The bar of a name or position.")
-          .Get(1, "Count", &CommandBars::GetCount, "Number of bars.");
-  return table;
+}  // namespace
+
+// --- the bars ------------------------------------------------------------------------------------
+
+std::shared_ptr<automation::Dispatch> CommandBars::Find(const std::string& name) const {
+  const auto& bars = Shared()->menus.bars;
+  const auto found = std::ranges::find_if(
+      bars, [&](const MenuBarPointer& bar) { return automation::EqualText(bar->name, name); });
+  return found == bars.end() ? nullptr : std::make_shared<CommandBar>(Shared(), *found);
 }
 
-Variant CommandBars::GetItem(const Variant& index) const {
-  const auto& bars = Shared()->menus.bars;
-  if (const auto* name = index.TryGet<std::string>()) {
-    const auto found = std::ranges::find_if(
-        bars, [&](const MenuBarPointer& bar) { return automation::EqualText(bar->name, *name); });
-    if (found == bars.end()) RefuseElement("There is no command bar \"" + *name + "\"");
-    return std::make_shared<CommandBar>(Shared(), *found);
-  }
-  const std::int32_t position = LongArgument(index);
-  if (position < 1 || static_cast<std::size_t>(position) > bars.size()) {
-    RefuseElement("There is no command bar number " + std::to_string(position) + " among " +
-                  std::to_string(bars.size()));
-  }
-  return std::make_shared<CommandBar>(Shared(), bars[static_cast<std::size_t>(position) - 1]);
+objects::Slot CommandBars::At(std::int32_t position) const {
+  return objects::SlotIn(Shared()->menus.bars, position, [this](const MenuBarPointer& bar) {
+    return std::make_shared<CommandBar>(Shared(), bar);
+  });
 }
 
 Variant CommandBars::GetCount() const {
@@ -39,32 +31,65 @@ Variant CommandBars::GetCount() const {
 }
 
 std::unique_ptr<Enumerator> CommandBars::Walk() {
-  std::vector<Variant> bars;
-  for (const MenuBarPointer& bar : Shared()->menus.bars) {
-    bars.emplace_back(std::make_shared<CommandBar>(Shared(), bar));
-  }
-  return std::make_unique<automation::SnapshotEnumerator>(std::move(bars));
+  return objects::WalkThrough(Shared()->menus.bars, [this](const MenuBarPointer& bar) {
+    return std::make_shared<CommandBar>(Shared(), bar);
+  });
 }
 
-// --- one of them ---------------------------------------------------------------------------------
+std::shared_ptr<objects::Collection> CommandBar::Controls() const {
+  return std::make_shared<CommandBarControls>(Shared(), bar_);
+}
 
-CommandBar::CommandBar(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
+// --- the controls of one -------------------------------------------------------------------------
 
-const MemberTable& CommandBar::Members() const {
+const MemberTable& CommandBarControls::Members() const {
   static const MemberTable table =
-      MemberTable::For<CommandBar>("CommandBar")
-          .Get(1, "Name", &CommandBar::GetName, "The bar's name, which other bars can have too.")
-          .Get(2, "Controls", &CommandBar::GetControls, {Optional("Index")},
-               "All controls, or one of them.");
+      MemberTable::Extending<CommandBarControls>(objects::CommandBarControls::Members())
+          .Method(2, "Add", &CommandBarControls::Add,
+                  {Optional("Type"), Optional("Id"), Optional("Parameter"), Optional("Before"),
+                   Optional("Temporary")},
+                  "A new button without a caption, at the end or ahead of another control.");
   return table;
 }
 
-Variant CommandBar::GetName() const { return bar_->name; }
+Variant CommandBarControls::GetItem(const Variant& index) const {
+  return std::make_shared<CommandBarControl>(Shared(), bar_,
+                                             bar_->entries[PlaceOfEntry(*bar_, index)]);
+}
 
-Variant CommandBar::GetControls(const Variant& index) const {
-  const auto controls = std::make_shared<CommandBarControls>(Shared(), bar_);
-  return index.IsMissing() ? Variant(controls) : controls->GetItem(index);
+Variant CommandBarControls::GetCount() const {
+  return static_cast<std::int32_t>(bar_->entries.size());
+}
+
+Variant CommandBarControls::Add(const Variant& type, const Variant& id,
+                                const Variant& /*parameter*/, const Variant& before,
+                                const Variant& /*temporary*/) {
+  const bool isButton = type.IsMissing() || LongArgument(type) == kButton;
+  if (!isButton || !id.IsMissing()) {
+    Refuse("Only buttons (type 1) without an Id can be added to a menu");
+  }
+  return std::make_shared<CommandBarControl>(Shared(), bar_, AddEntry(*bar_, "", before));
+}
+
+std::unique_ptr<Enumerator> CommandBarControls::Walk() {
+  return objects::WalkThrough(bar_->entries, [this](const MenuEntryPointer& entry) {
+    return std::make_shared<CommandBarControl>(Shared(), bar_, entry);
+  });
+}
+
+const MemberTable& CommandBarControl::Members() const {
+  using C = CommandBarControl;
+  static const MemberTable table =
+      MemberTable::Extending<C>(objects::CommandBarControl::Members())
+          .Get(4, "Index", &C::GetIndex, "Position among the controls of its bar.")
+          .Method(5, "Execute", &C::RaiseClick, {},
+                  "Does what a person does who chooses the control.");
+  return table;
+}
+
+Variant CommandBarControl::GetIndex() const {
+  const auto place = std::ranges::find(bar_->entries, entry_);
+  return static_cast<std::int32_t>(place - bar_->entries.begin()) + 1;
 }
 
 }  // namespace rangewerks::hosts::workbook

@@ -1,75 +1,71 @@
-// The late-bound menus of the program: CommandBars, one CommandBar of them, its CommandBarControls,
-// one CommandBarControl of those.
+// The late-bound CommandBars, CommandBar, CommandBarControls and CommandBarControl of a workbook in
+// memory.
 #pragma once
 
+#include "hosts/objects/command_bars.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class CommandBars final : public ModelObject<> {
+class CommandBars final : public ModelObject<objects::CommandBars> {
  public:
-  explicit CommandBars(SessionPointer session);
-  const MemberTable& Members() const override;
-  /// The bar at a position, or the first one of a name. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+  explicit CommandBars(SessionPointer session) : ModelObject(std::move(session)) {}
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
-
- private:
-  Variant GetCount() const;
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
 };
 
-class CommandBar final : public ModelObject<> {
+class CommandBar final : public ModelObject<objects::CommandBar> {
  public:
-  CommandBar(SessionPointer session, MenuBarPointer bar);
-  const MemberTable& Members() const override;
+  CommandBar(SessionPointer session, MenuBarPointer bar)
+      : ModelObject(std::move(session)), bar_(std::move(bar)) {}
+
+ protected:
+  Variant GetName() const override { return bar_->name; }
+  std::shared_ptr<objects::Collection> Controls() const override;
 
  private:
-  Variant GetName() const;
-  Variant GetControls(const Variant& index) const;
-
   MenuBarPointer bar_;
 };
 
-class CommandBarControls final : public ModelObject<> {
+class CommandBarControls final : public ModelObject<objects::CommandBarControls> {
  public:
-  CommandBarControls(SessionPointer session, MenuBarPointer bar);
+  CommandBarControls(SessionPointer session, MenuBarPointer bar)
+      : ModelObject(std::move(session)), bar_(std::move(bar)) {}
+
+  /// Those of every host, and Add.
   const MemberTable& Members() const override;
-  /// The control at a position or of a caption. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+  Variant GetItem(const Variant& index) const override;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  Variant GetCount() const override;
 
  private:
-  Variant GetCount() const;
   Variant Add(const Variant& type, const Variant& id, const Variant& parameter,
               const Variant& before, const Variant& temporary);
 
   MenuBarPointer bar_;
 };
 
-/// Event: Click, with the control, when a person chooses it.
-class CommandBarControl final : public ModelObject<> {
+class CommandBarControl final : public ModelObject<objects::CommandBarControl> {
  public:
-  CommandBarControl(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry);
+  CommandBarControl(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry)
+      : ModelObject(std::move(session)), bar_(std::move(bar)), entry_(std::move(entry)) {}
+
+  /// Those of every host, Index and Execute.
   const MemberTable& Members() const override;
-  automation::Connection Connect(automation::EventHandler handler) override;
 
  protected:
-  void RequireAlive() const override;
+  MenuEntry& Entry() const override { return *entry_; }
+  void LetCaption(const std::string& caption) override { entry_->caption = caption; }
+  void Remove() override { RemoveEntry(*bar_, entry_); }
 
  private:
-  Variant GetCaption() const;
-  void LetCaption(const std::string& value);
-  Variant GetTag() const;
-  void LetTag(const std::string& value);
-  Variant GetOnAction() const;
-  void LetOnAction(const std::string& value);
   Variant GetIndex() const;
-  void Execute();
-  void Delete(const Variant& temporary);
 
   MenuBarPointer bar_;
   MenuEntryPointer entry_;

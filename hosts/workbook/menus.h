@@ -6,18 +6,11 @@
 #include <string>
 #include <vector>
 
-#include "automation/dispatch.h"
+#include "hosts/objects/menu_entry.h"
 
 namespace rangewerks::hosts::workbook {
 
-/// One entry. What a person chooses is told to those connected to `events`.
-struct MenuEntry {
-  std::string caption;  ///< with "&" in front of the access key
-  std::string tag;
-  std::string onAction;  ///< name of a macro, which isn't run
-  automation::EventSource events;
-  bool deleted = false;
-};
+using objects::MenuEntry;
 using MenuEntryPointer = std::shared_ptr<MenuEntry>;
 
 /// One bar. Several can have the same name.

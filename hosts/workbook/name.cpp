@@ -43,68 +43,37 @@ NamePointer DefineName(Book& book, const std::string& given, SheetPointer scope,
   return book.names.Define(std::move(parts.rest), std::move(scope), std::move(content));
 }
 
-Name::Name(SessionPointer session, Book* book, NamePointer name)
-    : ModelObject(std::move(session)), book_(book), name_(std::move(name)) {}
-
-const MemberTable& Name::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Name>("Name")
-          .Get(0, "RefersTo", &Name::GetRefersTo, "The reference or formula, as text with \"=\".")
-          .Let(0, "RefersTo", &Name::LetRefersTo, "Gives the name another content.")
-          .Get(1, "Name", &Name::GetName, "The full text.")
-          .Let(1, "Name", &Name::LetName, "Renames in place.")
-          .Get(2, "RefersToRange", &Name::GetRefersToRange, "The cells.")
-          .Method(3, "Delete", &Name::Delete, {}, "Removes the name.")
-          .Get(4, "Parent", &Name::GetParent, "The workbook, or the sheet that the name is of.")
-          .Get(5, "Application", &Name::GetApplication, "The application.");
-  return table;
-}
-
 void Name::RequireAlive() const {
   if (name_->deleted) Refuse("The name \"" + name_->name + "\" has been deleted");
 }
 
-Variant Name::GetName() const { return name_->FullName(); }
+bool Name::IsOfSheet(const std::string& sheet) {
+  return name_->scope && book_->FindSheet(sheet) == name_->scope;
+}
 
-void Name::LetName(const Variant& name) {
-  const std::string given = TextArgument(name);
-  const SheetAndRest parts = SplitSheet(WithoutTrailingBlank(given));
-  const bool ownSheet =
-      !parts.hasSheet || (name_->scope && book_->FindSheet(parts.sheet) == name_->scope);
-  if (!ownSheet) {
-    Refuse("The name \"" + name_->FullName() + "\" can't become \"" + given +
-           "\": a name can't move to another sheet");
-  }
-  RequireGoodName(parts.rest);
+void Name::Rename(const std::string& text, const std::string& given) {
+  RequireGoodName(text);
   const NamePointer other =
-      name_->scope ? book_->names.FindOf(*name_->scope, parts.rest) : book_->names.Find(parts.rest);
+      name_->scope ? book_->names.FindOf(*name_->scope, text) : book_->names.Find(text);
   if (other && other != name_) {
     Refuse("The name \"" + name_->FullName() + "\" can't become \"" + given +
            "\": there is a name of that text");
   }
-  book_->names.Rename(name_, parts.rest);
+  book_->names.Rename(name_, text);
 }
-
-Variant Name::GetRefersTo() const { return ContentText(name_->content); }
 
 void Name::LetRefersTo(const Variant& content) { name_->content = ContentOf(*book_, content); }
 
-Variant Name::GetRefersToRange() const {
+std::shared_ptr<objects::Range> Name::FindCells() {
   const Reference* const cells = name_->Cells();
-  if (cells == nullptr) {
-    Refuse("The name \"" + name_->FullName() + "\" refers to no cells but to " +
-           ContentText(name_->content));
-  }
-  return Range::Of(Shared(), *cells);
+  return cells == nullptr ? nullptr : Range::Of(Shared(), *cells);
 }
 
-Variant Name::GetParent() const {
+Variant Name::GetParent() {
   if (name_->scope) return Worksheet::Of(Shared(), name_->scope);
   return Workbook::Of(Shared(), book_);
 }
 
-Variant Name::GetApplication() const { return Application::Of(Shared()); }
-
-void Name::Delete() { book_->names.Remove(name_); }
+Variant Name::GetApplication() { return Application::Of(Shared()); }
 
 }  // namespace rangewerks::hosts::workbook

@@ -1,6 +1,7 @@
 // The late-bound Name: one defined name.
 #pragma once
 
+#include "hosts/objects/name.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
@@ -14,25 +15,25 @@ NamePointer DefineName(Book& book, const std::string& given, SheetPointer scope,
 /// 1004 for any other object and for cells of another workbook.
 NameContent ContentOf(const Book& book, const Variant& given);
 
-class Name final : public ModelObject<> {
+class Name final : public ModelObject<objects::Name> {
  public:
-  Name(SessionPointer session, Book* book, NamePointer name);
-
-  const MemberTable& Members() const override;
+  Name(SessionPointer session, Book* book, NamePointer name)
+      : ModelObject(std::move(session)), book_(book), name_(std::move(name)) {}
 
  protected:
   void RequireAlive() const override;
 
- private:
-  Variant GetName() const;
-  void LetName(const Variant& name);
-  Variant GetRefersTo() const;
-  void LetRefersTo(const Variant& content);
-  Variant GetRefersToRange() const;
-  Variant GetParent() const;
-  Variant GetApplication() const;
-  void Delete();
+  std::string FullText() override { return name_->FullName(); }
+  bool IsOfSheet(const std::string& sheet) override;
+  void Rename(const std::string& text, const std::string& given) override;
+  std::string RefersTo() override { return ContentText(name_->content); }
+  void LetRefersTo(const Variant& content) override;
+  std::shared_ptr<objects::Range> FindCells() override;
+  Variant GetParent() override;
+  Variant GetApplication() override;
+  void Delete() override { book_->names.Remove(name_); }
 
+ private:
   Book* book_;
   NamePointer name_;
 };

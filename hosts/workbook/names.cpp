@@ -2,7 +2,6 @@
 
 #include "hosts/common/name_rules.h"
 #include "hosts/workbook/application.h"
-#include "hosts/workbook/failure.h"
 #include "hosts/workbook/name.h"
 #include "hosts/workbook/workbook.h"
 #include "hosts/workbook/worksheet.h"
@@ -32,20 +31,6 @@ class NamesWalk final : public Enumerator {
 
 }  // namespace
 
-Names::Names(SessionPointer session, Book* book, SheetPointer sheet)
-    : ModelObject(std::move(session)), book_(book), sheet_(std::move(sheet)) {}
-
-const MemberTable& Names::Members() const {
-  static const MemberTable table =
-      MemberTable::For<Names>("Names")
-          .Get(0, "Item", &Names::GetItem, {"Index"}, "The name of that text or at that position.")
-          .Get(1, "Count", &Names::GetCount, "Number of names.")
-          .Method(2, "Add", &Names::Add, {"Name", "RefersTo"}, "Defines a name or moves it.")
-          .Get(3, "Parent", &Names::GetParent, "The workbook or the sheet.")
-          .Get(4, "Application", &Names::GetApplication, "The application.");
-  return table;
-}
-
 void Names::RequireAlive() const {
   if (sheet_ && sheet_->deleted) Refuse("The sheet of these names has been deleted");
 }
@@ -54,23 +39,18 @@ std::vector<NamePointer> Names::All() const {
   return sheet_ ? book_->names.AllOf(*sheet_) : book_->names.All();
 }
 
-Variant Names::GetItem(const Variant& index) const {
-  if (const auto* text = index.TryGet<std::string>()) {
-    const std::string_view wanted = WithoutTrailingBlank(*text);
-    NamePointer name = sheet_ ? book_->names.FindOf(*sheet_, wanted) : nullptr;
-    if (!name) name = book_->names.Find(wanted);
-    if (!name || (sheet_ && name->scope != sheet_)) {
-      Refuse("Workbook \"" + book_->name + "\" has no name \"" + *text + "\"");
-    }
-    return std::make_shared<Name>(Shared(), book_, std::move(name));
-  }
-  const std::int32_t position = LongArgument(index);
-  const auto all = All();
-  if (position < 1 || static_cast<std::size_t>(position) > all.size()) {
-    Refuse("Workbook \"" + book_->name + "\" has no name number " + std::to_string(position) +
-           " among its " + std::to_string(all.size()));
-  }
-  return std::make_shared<Name>(Shared(), book_, all[static_cast<std::size_t>(position) - 1]);
+std::shared_ptr<automation::Dispatch> Names::Find(const std::string& text) const {
+  const std::string_view wanted = WithoutTrailingBlank(text);
+  NamePointer name = sheet_ ? book_->names.FindOf(*sheet_, wanted) : nullptr;
+  if (!name) name = book_->names.Find(wanted);
+  if (!name || (sheet_ && name->scope != sheet_)) return nullptr;
+  return std::make_shared<Name>(Shared(), book_, std::move(name));
+}
+
+objects::Slot Names::At(std::int32_t position) const {
+  return objects::SlotIn(All(), position, [this](const NamePointer& name) {
+    return std::make_shared<Name>(Shared(), book_, name);
+  });
 }
 
 Variant Names::GetCount() const {
@@ -78,9 +58,8 @@ Variant Names::GetCount() const {
   return static_cast<std::int32_t>(count);
 }
 
-Variant Names::Add(const Variant& name, const Variant& refersTo) {
-  const NamePointer defined =
-      DefineName(*book_, TextArgument(name), sheet_, ContentOf(*book_, refersTo));
+Variant Names::Add(const std::string& name, const Variant& refersTo) {
+  const NamePointer defined = DefineName(*book_, name, sheet_, ContentOf(*book_, refersTo));
   return std::make_shared<Name>(Shared(), book_, defined);
 }
 

@@ -1,27 +1,30 @@
 // The late-bound Sheets: the sheets of a workbook.
 #pragma once
 
+#include "hosts/objects/workbook.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class Sheets final : public ModelObject<> {
+class Sheets final : public ModelObject<objects::Sheets> {
  public:
-  Sheets(SessionPointer session, Book* book);
+  Sheets(SessionPointer session, Book* book) : ModelObject(std::move(session)), book_(book) {}
 
+  /// Those of every host, and Add.
   const MemberTable& Members() const override;
-  /// The sheet of that name or at that position. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  std::string BookName() const override { return book_->name; }
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
+  Variant GetParent() const override;
+  Variant GetApplication() const override;
 
  private:
   Variant Add(const Variant& before, const Variant& after);
   SheetPointer SheetArgument(const Variant& value) const;
-  Variant GetCount() const;
-  Variant GetParent() const;
-  Variant GetApplication() const;
 
   Book* book_;
 };

@@ -1,49 +1,9 @@
 #include "hosts/workbook/shortcut_menu.h"
 
-#include "hosts/workbook/failure.h"
-#include "platform/excel_constants.h"
-
 namespace rangewerks::hosts::workbook {
-// --- the menu ------------------------------------------------------------------------------------
 
-Menu::Menu(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
-
-Variant Menu::Of(const SessionPointer& session, std::int32_t index) {
-  if (index != excel::xlWorksheetCell) {
-    workbook::RefuseElement("There is no shortcut menu number " + std::to_string(index) +
-                            " here, only 3, that of the cells");
-  }
-  return std::make_shared<Menu>(session, session->menus.ofCells);
-}
-
-const MemberTable& Menu::Members() const {
-  static const MemberTable table = MemberTable::For<Menu>("Menu").Get(
-      1, "MenuItems", &Menu::GetMenuItems, {Optional("Index")}, "All items, or one of them.");
-  return table;
-}
-
-Variant Menu::GetMenuItems(const Variant& index) const {
-  const auto items = std::make_shared<MenuItems>(Shared(), bar_);
-  return index.IsMissing() ? Variant(items) : items->GetItem(index);
-}
-
-// --- its items -----------------------------------------------------------------------------------
-
-MenuItems::MenuItems(SessionPointer session, MenuBarPointer bar)
-    : ModelObject(std::move(session)), bar_(std::move(bar)) {}
-
-const MemberTable& MenuItems::Members() const {
-  static const MemberTable table =
-      MemberTable::For<MenuItems>("MenuItems")
-          .Get(0, "Item", &MenuItems::GetItem, {"Index"}, "The item of a caption or position.")
-          .Get(1, "Count", &MenuItems::GetCount, "Number of items.")
-          .Method(2, "Add", &MenuItems::Add,
-                  {"Caption", Optional("OnAction"), Optional("ShortcutKey"), Optional("Before"),
-                   Optional("Restore"), Optional("StatusBar"), Optional("HelpFile"),
-                   Optional("HelpContextID")},
-                  "A new item, at the end or ahead of the one of a caption or position.");
-  return table;
+std::shared_ptr<objects::Collection> Menu::Items() const {
+  return std::make_shared<MenuItems>(Shared(), bar_);
 }
 
 Variant MenuItems::GetItem(const Variant& index) const {
@@ -52,48 +12,15 @@ Variant MenuItems::GetItem(const Variant& index) const {
 
 Variant MenuItems::GetCount() const { return static_cast<std::int32_t>(bar_->entries.size()); }
 
-Variant MenuItems::Add(const std::string& caption, const Variant& onAction,
-                       const Variant& /*shortcutKey*/, const Variant& before,
-                       const Variant& /*restore*/, const Variant& /*statusBar*/,
-                       const Variant& /*helpFile*/, const Variant& /*helpContext*/) {
-  const std::string macro = onAction.IsMissing() ? "" : TextArgument(onAction);
-  const MenuEntryPointer entry = AddEntry(*bar_, caption, before);
-  entry->onAction = macro;
-  return std::make_shared<MenuItem>(Shared(), bar_, entry);
+std::shared_ptr<objects::MenuItem> MenuItems::AddItem(const std::string& caption,
+                                                      const Variant& before) {
+  return std::make_shared<MenuItem>(Shared(), bar_, AddEntry(*bar_, caption, before));
 }
 
 std::unique_ptr<Enumerator> MenuItems::Walk() {
-  std::vector<Variant> items;
-  for (const MenuEntryPointer& entry : bar_->entries) {
-    items.emplace_back(std::make_shared<MenuItem>(Shared(), bar_, entry));
-  }
-  return std::make_unique<automation::SnapshotEnumerator>(std::move(items));
+  return objects::WalkThrough(bar_->entries, [this](const MenuEntryPointer& entry) {
+    return std::make_shared<MenuItem>(Shared(), bar_, entry);
+  });
 }
-
-// --- one of them ---------------------------------------------------------------------------------
-
-MenuItem::MenuItem(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry)
-    : ModelObject(std::move(session)), bar_(std::move(bar)), entry_(std::move(entry)) {}
-
-const MemberTable& MenuItem::Members() const {
-  static const MemberTable table =
-      MemberTable::For<MenuItem>("MenuItem")
-          .Get(1, "Caption", &MenuItem::GetCaption, "The text, with \"&\" ahead of its access key.")
-          .Let(1, "Caption", &MenuItem::LetCaption, "The text, with \"&\" ahead of its access key.")
-          .Get(2, "OnAction", &MenuItem::GetOnAction, "Name of a macro; no macros are run here.")
-          .Let(2, "OnAction", &MenuItem::LetOnAction, "Name of a macro; no macros are run here.")
-          .Method(3, "Delete", &MenuItem::Delete, {}, "Removes the item.");
-  return table;
-}
-
-void MenuItem::RequireAlive() const {
-  if (entry_->deleted) Refuse("The menu entry \"" + entry_->caption + "\" has been deleted");
-}
-
-Variant MenuItem::GetCaption() const { return entry_->caption; }
-void MenuItem::LetCaption(const std::string& value) { entry_->caption = value; }
-Variant MenuItem::GetOnAction() const { return entry_->onAction; }
-void MenuItem::LetOnAction(const std::string& value) { entry_->onAction = value; }
-void MenuItem::Delete() { RemoveEntry(*bar_, entry_); }
 
 }  // namespace rangewerks::hosts::workbook

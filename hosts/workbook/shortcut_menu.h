@@ -1,60 +1,53 @@
-// The late-bound menus of the older kind: a Menu that a right click opens, its MenuItems, one
-// MenuItem of them. They are the entries that command bars have as controls.
+// The late-bound Menu, MenuItems and MenuItem of a workbook in memory.
 #pragma once
 
+#include "hosts/objects/shortcut_menu.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class Menu final : public ModelObject<> {
+class Menu final : public ModelObject<objects::Menu> {
  public:
-  Menu(SessionPointer session, MenuBarPointer bar);
-  /// The shortcut menu of that number: 3, that of the cells. Raises 9 for all others.
-  static Variant Of(const SessionPointer& session, std::int32_t index);
-  const MemberTable& Members() const override;
+  Menu(SessionPointer session, MenuBarPointer bar)
+      : ModelObject(std::move(session)), bar_(std::move(bar)) {}
+
+ protected:
+  std::shared_ptr<objects::Collection> Items() const override;
 
  private:
-  Variant GetMenuItems(const Variant& index) const;
-
   MenuBarPointer bar_;
 };
 
-class MenuItems final : public ModelObject<> {
+class MenuItem final : public ModelObject<objects::MenuItem> {
  public:
-  MenuItems(SessionPointer session, MenuBarPointer bar);
-  const MemberTable& Members() const override;
-  /// The item at a position or of a caption. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+  MenuItem(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry)
+      : ModelObject(std::move(session)), bar_(std::move(bar)), entry_(std::move(entry)) {}
+
+ protected:
+  MenuEntry& Entry() const override { return *entry_; }
+  void LetCaption(const std::string& caption) override { entry_->caption = caption; }
+  void Remove() override { RemoveEntry(*bar_, entry_); }
+
+ private:
+  MenuBarPointer bar_;
+  MenuEntryPointer entry_;
+};
+
+class MenuItems final : public ModelObject<objects::MenuItems> {
+ public:
+  MenuItems(SessionPointer session, MenuBarPointer bar)
+      : ModelObject(std::move(session)), bar_(std::move(bar)) {}
+
+  Variant GetItem(const Variant& index) const override;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  Variant GetCount() const override;
+  std::shared_ptr<objects::MenuItem> AddItem(const std::string& caption,
+                                             const Variant& before) override;
 
  private:
-  Variant GetCount() const;
-  Variant Add(const std::string& caption, const Variant& onAction, const Variant& shortcutKey,
-              const Variant& before, const Variant& restore, const Variant& statusBar,
-              const Variant& helpFile, const Variant& helpContext);
-
   MenuBarPointer bar_;
-};
-
-class MenuItem final : public ModelObject<> {
- public:
-  MenuItem(SessionPointer session, MenuBarPointer bar, MenuEntryPointer entry);
-  const MemberTable& Members() const override;
-
- protected:
-  void RequireAlive() const override;
-
- private:
-  Variant GetCaption() const;
-  void LetCaption(const std::string& value);
-  Variant GetOnAction() const;
-  void LetOnAction(const std::string& value);
-  void Delete();
-
-  MenuBarPointer bar_;
-  MenuEntryPointer entry_;
 };
 
 }  // namespace rangewerks::hosts::workbook

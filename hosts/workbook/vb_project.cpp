@@ -5,7 +5,6 @@
 #include "automation/text.h"
 #include "hosts/common/name_rules.h"
 #include "hosts/workbook/code_module.h"
-#include "hosts/workbook/failure.h"
 
 namespace rangewerks::hosts::workbook {
 namespace {
@@ -21,80 +20,40 @@ MacroModulePointer FindModule(const Book& book, const std::string& name) {
 
 // --- the project ---------------------------------------------------------------------------------
 
-VBProject::VBProject(SessionPointer session, Book* book)
-    : ModelObject(std::move(session)), book_(book) {}
-
-const MemberTable& VBProject::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBProject>("VBProject")
-          .Get(1, "VBComponents", &VBProject::GetComponents, {Optional("Index")},
-               "All code modules, or one of them.");
-  return table;
-}
-
-Variant VBProject::GetComponents(const Variant& index) const {
-  const auto components = std::make_shared<VBComponents>(Shared(), book_);
-  return index.IsMissing() ? Variant(components) : components->GetItem(index);
+std::shared_ptr<objects::Collection> VBProject::Components() const {
+  return std::make_shared<VBComponents>(Shared(), book_);
 }
 
 // --- its modules ---------------------------------------------------------------------------------
 
-VBComponents::VBComponents(SessionPointer session, Book* book)
-    : ModelObject(std::move(session)), book_(book) {}
-
-const MemberTable& VBComponents::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBComponents>("VBComponents")
-          .Get(0, "Item", &VBComponents::GetItem, {"Index"}, "The module of a name or position.")
-          .Get(1, "Count", &VBComponents::GetCount, "Number of modules.")
-          .Method(2, "Add", &VBComponents::Add, {"ComponentType"},
-                  "A new module: 1 a standard one, 2 a class.")
-          .Method(3, "Remove", &VBComponents::Remove, {"VBComponent"}, "Removes a module.");
-  return table;
+std::shared_ptr<automation::Dispatch> VBComponents::Find(const std::string& name) const {
+  const MacroModulePointer module = FindModule(*book_, name);
+  return module ? std::make_shared<VBComponent>(Shared(), book_, module) : nullptr;
 }
 
-Variant VBComponents::Face(const MacroModulePointer& module) const {
-  return std::make_shared<VBComponent>(Shared(), book_, module);
-}
-
-Variant VBComponents::GetItem(const Variant& index) const {
-  if (const auto* name = index.TryGet<std::string>()) {
-    const MacroModulePointer module = FindModule(*book_, *name);
-    if (!module) RefuseElement("Workbook \"" + book_->name + "\" has no module \"" + *name + "\"");
-    return Face(module);
-  }
-  const std::int32_t position = LongArgument(index);
-  const auto modules = book_->Modules();
-  if (position < 1 || static_cast<std::size_t>(position) > modules.size()) {
-    RefuseElement("Workbook \"" + book_->name + "\" has no module number " +
-                  std::to_string(position) + " among its " + std::to_string(modules.size()));
-  }
-  return Face(modules[static_cast<std::size_t>(position) - 1]);
+objects::Slot VBComponents::At(std::int32_t position) const {
+  return objects::SlotIn(book_->Modules(), position, [this](const MacroModulePointer& module) {
+    return std::make_shared<VBComponent>(Shared(), book_, module);
+  });
 }
 
 Variant VBComponents::GetCount() const {
   return static_cast<std::int32_t>(book_->Modules().size());
 }
 
-Variant VBComponents::Add(std::int32_t type) {
-  const auto kind = static_cast<ModuleKind>(type);
-  if (kind != ModuleKind::Standard && kind != ModuleKind::Class) {
-    Refuse("A module that is added is of the type 1 (standard) or 2 (class), not " +
-           std::to_string(type));
-  }
+Variant VBComponents::GetParent() const { return std::make_shared<VBProject>(Shared(), book_); }
+
+Variant VBComponents::AddModule(bool isClass) {
   auto module = std::make_shared<MacroModule>();
-  module->kind = kind;
-  module->name = FreeModuleName(book_->Modules(), kind == ModuleKind::Class ? "Class" : "Module");
+  module->kind = isClass ? ModuleKind::Class : ModuleKind::Standard;
+  module->name = FreeModuleName(book_->Modules(), isClass ? "Class" : "Module");
   book_->macros.added.push_back(module);
-  return Face(module);
+  return std::make_shared<VBComponent>(Shared(), book_, module);
 }
 
-void VBComponents::Remove(const Variant& component) {
-  const auto given = component.IsObject() ? component.AsObject().As<VBComponent>() : nullptr;
-  if (!given || given->OfBook() != book_ || given->Data()->removed) {
-    Refuse("Only a module of workbook \"" + book_->name + "\" can be removed from it, not a " +
-           component.TypeName() + (given ? " that isn't one of its" : ""));
-  }
+bool VBComponents::TryRemove(const objects::VBComponent& component) {
+  const auto* const given = dynamic_cast<const VBComponent*>(&component);
+  if (given == nullptr || given->OfBook() != book_ || given->Data()->removed) return false;
   const MacroModulePointer module = given->Data();
   if (module->kind == ModuleKind::Document) {
     Refuse("Module \"" + module->name + "\" can't be removed: it belongs to the workbook itself " +
@@ -102,35 +61,20 @@ void VBComponents::Remove(const Variant& component) {
   }
   std::erase(book_->macros.added, module);
   module->removed = true;
+  return true;
 }
 
 std::unique_ptr<Enumerator> VBComponents::Walk() {
-  std::vector<Variant> components;
-  for (const MacroModulePointer& module : book_->Modules()) components.push_back(Face(module));
-  return std::make_unique<automation::SnapshotEnumerator>(std::move(components));
+  return objects::WalkThrough(book_->Modules(), [this](const MacroModulePointer& module) {
+    return std::make_shared<VBComponent>(Shared(), book_, module);
+  });
 }
 
 // --- one of them ---------------------------------------------------------------------------------
 
-VBComponent::VBComponent(SessionPointer session, Book* book, MacroModulePointer module)
-    : ModelObject(std::move(session)), book_(book), module_(std::move(module)) {}
-
-const MemberTable& VBComponent::Members() const {
-  static const MemberTable table =
-      MemberTable::For<VBComponent>("VBComponent")
-          .Get(1, "Name", &VBComponent::GetName, "The module's name.")
-          .Let(1, "Name", &VBComponent::LetName, "Renames a module that was added.")
-          .Get(2, "Type", &VBComponent::GetType,
-               "1 a standard module, 2 a class, 100 of the workbook or a sheet.")
-          .Get(3, "CodeModule", &VBComponent::GetCodeModule, "The code.");
-  return table;
-}
-
 void VBComponent::RequireAlive() const {
   if (module_->removed) Refuse("Module \"" + module_->name + "\" has been removed");
 }
-
-Variant VBComponent::GetName() const { return module_->name; }
 
 void VBComponent::LetName(const std::string& name) {
   if (module_->kind == ModuleKind::Document) {
@@ -147,8 +91,6 @@ void VBComponent::LetName(const std::string& name) {
   }
   module_->name = name;
 }
-
-Variant VBComponent::GetType() const { return static_cast<std::int32_t>(module_->kind); }
 
 Variant VBComponent::GetCodeModule() const {
   return std::make_shared<CodeModule>(Shared(), module_);

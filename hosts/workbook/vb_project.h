@@ -1,57 +1,57 @@
-// The late-bound macro project of a workbook: VBProject, its VBComponents, one VBComponent of them.
+// The late-bound macro project of a workbook in memory: VBProject, its VBComponents, one
+// VBComponent of them.
 #pragma once
 
+#include "hosts/objects/vb_project.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class VBProject final : public ModelObject<> {
+class VBProject final : public ModelObject<objects::VBProject> {
  public:
-  VBProject(SessionPointer session, Book* book);
-  const MemberTable& Members() const override;
+  VBProject(SessionPointer session, Book* book) : ModelObject(std::move(session)), book_(book) {}
+
+ protected:
+  std::shared_ptr<objects::Collection> Components() const override;
 
  private:
-  Variant GetComponents(const Variant& index) const;
-
   Book* book_;
 };
 
-/// The modules in their order: the workbook's, those of the sheets, those added.
-class VBComponents final : public ModelObject<> {
+class VBComponents final : public ModelObject<objects::VBComponents> {
  public:
-  VBComponents(SessionPointer session, Book* book);
-  const MemberTable& Members() const override;
-  /// The component of that name or at that position. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
+  VBComponents(SessionPointer session, Book* book) : ModelObject(std::move(session)), book_(book) {}
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  std::string BookName() const override { return book_->name; }
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
+  Variant AddModule(bool isClass) override;
+  bool TryRemove(const objects::VBComponent& component) override;
+  Variant GetParent() const override;
 
  private:
-  Variant GetCount() const;
-  Variant Add(std::int32_t type);
-  void Remove(const Variant& component);
-  Variant Face(const MacroModulePointer& module) const;
-
   Book* book_;
 };
 
-class VBComponent final : public ModelObject<> {
+class VBComponent final : public ModelObject<objects::VBComponent> {
  public:
-  VBComponent(SessionPointer session, Book* book, MacroModulePointer module);
-  const MemberTable& Members() const override;
+  VBComponent(SessionPointer session, Book* book, MacroModulePointer module)
+      : ModelObject(std::move(session)), book_(book), module_(std::move(module)) {}
+
   const MacroModulePointer& Data() const noexcept { return module_; }
   const Book* OfBook() const noexcept { return book_; }
 
  protected:
   void RequireAlive() const override;
+  Variant GetName() const override { return module_->name; }
+  void LetName(const std::string& name) override;
+  Variant GetType() const override { return static_cast<std::int32_t>(module_->kind); }
+  Variant GetCodeModule() const override;
 
  private:
-  Variant GetName() const;
-  void LetName(const std::string& name);
-  Variant GetType() const;
-  Variant GetCodeModule() const;
-
   Book* book_;
   MacroModulePointer module_;
 };

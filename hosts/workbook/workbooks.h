@@ -1,26 +1,28 @@
 // The late-bound Workbooks: the open workbooks.
 #pragma once
 
+#include "hosts/objects/workbook.h"
 #include "hosts/workbook/model_object.h"
 
 namespace rangewerks::hosts::workbook {
 
-class Workbooks final : public ModelObject<> {
+class Workbooks final : public ModelObject<objects::Workbooks> {
  public:
-  explicit Workbooks(SessionPointer session);
+  explicit Workbooks(SessionPointer session) : ModelObject(std::move(session)) {}
 
+  /// Those of every host, and Open.
   const MemberTable& Members() const override;
-  /// The workbook of that name or at that position. Raises 9 when there is none.
-  Variant GetItem(const Variant& index) const;
 
  protected:
   std::unique_ptr<Enumerator> Walk() override;
+  std::shared_ptr<automation::Dispatch> Find(const std::string& name) const override;
+  objects::Slot At(std::int32_t position) const override;
+  Variant GetCount() const override;
+  Variant GetApplication() const override;
+  Variant Add() override;
 
  private:
-  Variant GetCount() const;
-  Variant GetApplication() const;
-  Variant Add();
-  Variant Open(const Variant& path);
+  Variant Open(const std::string& path);
 };
 
 }  // namespace rangewerks::hosts::workbook

@@ -127,5 +127,14 @@ TEST_P(ApplicationContract, InternationalTellsSeparatorsAsTextAndTheDateOrderAsN
   EXPECT_LE(order, 2);
 }
 
+TEST_P(ApplicationContract, TheApplicationGivesTheCellsOfTheSheetInFront) {
+  Call(dataSheet_, "Select");
+  Let(GetObject(Application(), "Range", {"B2"}), "Value", 5.0);
+  Application().Let(automation::Member("Cells"), {3, 2}, 6.0);
+  EXPECT_EQ(GetText(Cells(dataSheet_, "B2"), "Formula"), "5");
+  EXPECT_EQ(GetText(Cells(dataSheet_, "B3"), "Formula"), "6");
+  EXPECT_EQ(GetText(Cells("B2"), "Formula"), "");
+}
+
 }  // namespace
 }  // namespace rangewerks::tests

@@ -79,5 +79,21 @@ TEST_P(DocumentPropertiesContract, AnotherWorkbookHasItsOwn) {
   EXPECT_EQ(GetLong(GetObject(other, "CustomDocumentProperties"), "Count"), 0);
 }
 
+TEST_P(DocumentPropertiesContract, AValueIsWrittenThroughTheCollectionToo) {
+  Add("Browse", true);
+  properties_.Let(Member("Item"), {"Browse"}, false);
+  EXPECT_EQ(ValueOf("Browse"), Variant(false));
+  properties_.Let(Member::Default(), {"Browse"}, true);
+  EXPECT_EQ(ValueOf("Browse"), Variant(true));
+}
+
+TEST_P(DocumentPropertiesContract, KnowTheirCollectionTheirWorkbookAndTheApplication) {
+  Add("Browse", true);
+  EXPECT_EQ(GetObject(Item("Browse"), "Parent").TypeName(), "DocumentProperties");
+  EXPECT_EQ(GetObject(Item("Browse"), "Application").TypeName(), "Application");
+  EXPECT_EQ(GetText(GetObject(properties_, "Parent"), "Name"), GetText(book_, "Name"));
+  EXPECT_EQ(GetObject(properties_, "Application").TypeName(), "Application");
+}
+
 }  // namespace
 }  // namespace rangewerks::tests

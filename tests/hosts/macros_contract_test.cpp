@@ -190,5 +190,11 @@ TEST_P(MacrosContract, AnotherWorkbookHasAProjectOfItsOwn) {
   EXPECT_TRUE(Fails([&] { GetObject(modules, "Item", {"OfTheFirst"}); }));
 }
 
+TEST_P(MacrosContract, ModulesKnowTheirProjectAndCodeTheNameOfItsModule) {
+  EXPECT_EQ(GetObject(modules_, "Parent").TypeName(), "VBProject");
+  AddModule("Subject");
+  EXPECT_EQ(GetText(CodeOf("Subject"), "Name"), "Subject");
+}
+
 }  // namespace
 }  // namespace rangewerks::tests
