@@ -129,8 +129,7 @@ HRESULT CarrySlot(const DispatchFace& face, P&... parameters) noexcept {
   constexpr std::size_t kCount = sizeof...(P);
   try {
     const MemberInfo& entry = EntryOf(face, kSlot);
-    const bool writes =
-        entry.kind == automation::CallKind::Let || entry.kind == automation::CallKind::Set;
+    const bool writes = automation::Writes(entry.kind);
     const bool answers = !writes && entry.result != TypeCode::Void;
     const std::size_t given = kCount - (answers ? 1 : 0);
     const auto typeOf = [&](std::size_t i) {

@@ -35,8 +35,6 @@ WORD FlagsOf(CallKind kind) {
   return DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 }
 
-bool Writes(CallKind kind) { return kind == CallKind::Let || kind == CallKind::Set; }
-
 }  // namespace
 
 ForeignObject::~ForeignObject() { ForgetForeign(identity_.Get()); }

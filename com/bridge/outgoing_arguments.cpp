@@ -7,7 +7,6 @@
 namespace rangewerks::com {
 
 using automation::Argument;
-using automation::CallKind;
 
 OutgoingArguments::OutgoingArguments(const automation::Invocation& call,
                                      std::span<const DISPID> names) {
@@ -19,7 +18,7 @@ OutgoingArguments::OutgoingArguments(const automation::Invocation& call,
   variables_.reserve(static_cast<std::size_t>(references));
 
   auto positional = call.positional;
-  if ((call.kind == CallKind::Let || call.kind == CallKind::Set) && !positional.empty()) {
+  if (Writes(call.kind) && !positional.empty()) {
     names_.push_back(DISPID_PROPERTYPUT);
     Put(positional.back());
     positional = positional.first(positional.size() - 1);

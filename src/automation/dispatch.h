@@ -22,6 +22,9 @@ enum class CallKind {
   Call,  ///< call a method
 };
 
+/// Whether the call's last positional argument is what is written.
+constexpr bool Writes(CallKind kind) { return kind == CallKind::Let || kind == CallKind::Set; }
+
 /// "get", "let", "set" or "call".
 const char* KindName(CallKind kind);
 

@@ -7,8 +7,6 @@ constexpr std::size_t kMostArguments = 16;
 
 std::size_t Slot(CallKind kind) { return static_cast<std::size_t>(kind); }
 
-bool Writes(CallKind kind) { return kind == CallKind::Let || kind == CallKind::Set; }
-
 std::size_t PositionOf(const MemberInfo& entry, Member name) {
   for (std::size_t i = 0; i < entry.arguments.size(); ++i) {
     if (entry.arguments[i].name == name) return i;

@@ -192,17 +192,20 @@ struct VariantCast<T> {
   static constexpr TypeCode kType = TypeCode::Object;
   static T From(const Variant& value) { return T(value.AsObject().Share()); }
 };
-/// A class of the library's own; another object is a mismatch, no object is null.
+/// The object in a value as one of a class of the library's own: no object is null. Raises 13 for
+/// an object of another class.
+template <class T>
+std::shared_ptr<T> InstanceIn(const Variant& value) {
+  const Object& object = value.AsObject();
+  auto result = object.As<T>();
+  if (object && !result) throw Error(ErrorNumber::TypeMismatch);
+  return result;
+}
 template <class T>
 requires std::derived_from<T, Dispatch>
 struct VariantCast<std::shared_ptr<T>> {
   static constexpr TypeCode kType = TypeCode::Object;
-  static std::shared_ptr<T> From(const Variant& value) {
-    const Object& object = value.AsObject();
-    auto result = object.As<T>();
-    if (object && !result) throw Error(ErrorNumber::TypeMismatch);
-    return result;
-  }
+  static std::shared_ptr<T> From(const Variant& value) { return InstanceIn<T>(value); }
 };
 
 template <class T>
@@ -358,10 +361,9 @@ class MemberTable::Builder {
   Builder&& Add(CallKind kind, std::int32_t id, std::string_view name, M method,
                 const std::vector<Parameter>& parameters, std::string help) && {
     using Sig = detail::Signature<M>;
-    const bool writes = kind == CallKind::Let || kind == CallKind::Set;
-    const std::size_t count = Sig::kCount - (writes ? 1 : 0);
+    const std::size_t count = Sig::kCount - (Writes(kind) ? 1 : 0);
     TypeCode result = detail::ResultType<typename Sig::Result>();
-    if (writes) result = Sig::LastType();
+    if (Writes(kind)) result = Sig::LastType();
     table_.Append({Member(name), id, kind, Sig::Arguments(parameters, count), result,
                    std::move(help),
                    [method](Dispatch& self, std::span<const Argument* const> arguments) {

@@ -113,10 +113,7 @@ namespace rangewerks::automation {
 
 std::shared_ptr<clsRangeProperties> VariantCast<std::shared_ptr<clsRangeProperties>>::From(
     const Variant& value) {
-  const Object& object = value.AsObject();
-  auto result = object.As<clsRangeProperties>();
-  if (object && !result) throw Error(ErrorNumber::TypeMismatch);
-  return result;
+  return InstanceIn<clsRangeProperties>(value);
 }
 
 }  // namespace rangewerks::automation
